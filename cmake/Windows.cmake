@@ -1,0 +1,29 @@
+# vulib.dll: the Windows layer over the whole core. Every symbol of our own
+# objects is exported (mingw's --export-all-symbols leaves the runtime
+# libraries out), and the import library libvulib.dll.a is what hosts link.
+enable_language(RC)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
+
+vulib_windows_sources(VULIB_WIN_SOURCES)
+file(GLOB VULIB_RC CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/*.rc)
+if(NOT VULIB_WIN_SOURCES)
+  return()
+endif()
+add_library(vulib SHARED ${VULIB_WIN_SOURCES} ${VULIB_RC})
+set_target_properties(vulib PROPERTIES PREFIX "" OUTPUT_NAME vulib IMPORT_PREFIX "lib"
+                                       IMPORT_SUFFIX ".dll.a")
+target_include_directories(vulib PUBLIC ${CMAKE_SOURCE_DIR})
+target_compile_options(vulib PRIVATE ${VULIB_WARNINGS})
+set(VULIB_WIN32_LIBS user32 gdi32 comctl32 msimg32 ole32 oleaut32 uuid advapi32 shell32
+    shlwapi uxtheme)
+target_link_libraries(vulib PRIVATE -Wl,--whole-archive ${VULIB_CORE_LIBS} -Wl,--no-whole-archive
+                                    ${VULIB_WIN32_LIBS})
+target_link_options(vulib PRIVATE -static -Wl,--export-all-symbols)
+set_property(TARGET vulib APPEND PROPERTY LINK_DEPENDS ${VULIB_RC})
+
+# Test and demo executables carry their runtime with them so Wine finds no
+# missing DLL.
+set(VULIB_EXE_LINK_OPTIONS -static)
