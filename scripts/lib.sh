@@ -22,16 +22,7 @@ ensure_packages() {
     "${missing[@]}"
 }
 
-configure_native() {
-  cmake -S "$ROOT" -B "$ROOT/build/native" -DCMAKE_BUILD_TYPE=Release
-}
-
-configure_windows() {
-  cmake -S "$ROOT" -B "$ROOT/build/windows" -DCMAKE_BUILD_TYPE=Release \
-    -DCMAKE_TOOLCHAIN_FILE="$ROOT/cmake/mingw-w64.cmake"
-}
-
-configure_fuzz() {
-  CC=clang CXX=clang++ cmake -S "$ROOT" -B "$ROOT/build/fuzz" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DVULIB_FUZZ=ON
-}
+# The build trees are the presets of CMakePresets.json.
+configure_native() { (cd "$ROOT" && cmake --preset native); }
+configure_windows() { (cd "$ROOT" && cmake --preset windows); }
+configure_fuzz() { (cd "$ROOT" && cmake --preset fuzz); }
