@@ -1,0 +1,254 @@
+// Compares vu::SplitPath with the C runtime's own _wsplitpath over a few
+// thousand generated paths. Any difference is a fault in our splitter: the
+// runtime is the reference.
+#include "foundation/SplitPath.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Generous buffers so that the runtime can never write past them, whatever
+// it does with overlong parts.
+constexpr std::size_t kBuffer = 4096;
+
+struct Split {
+    bool ok = true;
+    std::u16string drive, dir, fname, ext;
+};
+
+// Which parts a call asks for (the runtime checks only those).
+struct Mask {
+    bool drive, dir, fname, ext;
+};
+
+Split RuntimeSplit(const std::u16string& path, Mask mask) {
+    static wchar_t d[kBuffer], di[kBuffer], f[kBuffer], e[kBuffer];
+    // Fill with a marker so a part the runtime leaves alone is visible.
+    for (auto* buf : {d, di, f, e}) {
+        std::fill(buf, buf + kBuffer - 1, L'#');
+        buf[kBuffer - 1] = 0;
+    }
+    errno = 0;
+    _wsplitpath(reinterpret_cast<const wchar_t*>(path.c_str()), mask.drive ? d : nullptr,
+                mask.dir ? di : nullptr, mask.fname ? f : nullptr, mask.ext ? e : nullptr);
+    Split s;
+    s.ok = errno != ERANGE;
+    auto take = [](bool wanted, const wchar_t* buf) {
+        return wanted ? std::u16string(reinterpret_cast<const char16_t*>(buf)) : std::u16string();
+    };
+    s.drive = take(mask.drive, d);
+    s.dir = take(mask.dir, di);
+    s.fname = take(mask.fname, f);
+    s.ext = take(mask.ext, e);
+    return s;
+}
+
+Split CoreSplit(const std::u16string& path, Mask mask) {
+    Split s;
+    s.ok = vu::SplitPath(path.c_str(), mask.drive ? &s.drive : nullptr, mask.dir ? &s.dir : nullptr,
+                         mask.fname ? &s.fname : nullptr, mask.ext ? &s.ext : nullptr);
+    return s;
+}
+
+std::string Show(const std::u16string& s) {
+    std::ostringstream out;
+    out << '"';
+    if (s.size() > 60) {
+        out << "<" << s.size() << " units>";
+    } else {
+        for (char16_t c : s) {
+            if (c >= 0x20 && c < 0x7F)
+                out << static_cast<char>(c);
+            else
+                out << "\\u" << std::hex << static_cast<unsigned>(c) << std::dec;
+        }
+    }
+    out << '"';
+    return out.str();
+}
+
+std::string Show(const Split& s) {
+    return std::string(s.ok ? "ok" : "ERANGE") + " drive=" + Show(s.drive) + " dir=" + Show(s.dir) +
+           " fname=" + Show(s.fname) + " ext=" + Show(s.ext);
+}
+
+bool Same(const Split& a, const Split& b) {
+    return a.ok == b.ok && a.drive == b.drive && a.dir == b.dir && a.fname == b.fname &&
+           a.ext == b.ext;
+}
+
+// Builds paths from the pieces that matter to splitting: drive prefixes
+// (valid and odd), UNC roots, separators of both kinds (single, doubled,
+// trailing), dots, spaces, non-ASCII units and names around the runtime's
+// 255-unit part limits.
+class PathGenerator {
+public:
+    explicit PathGenerator(unsigned seed) : m_rng(seed) {}
+
+    std::u16string Next() {
+        std::u16string path = Prefix();
+        const int components = Pick(0, 5);
+        for (int i = 0; i < components; ++i) {
+            path += Component();
+            if (i + 1 < components || Pick(0, 3) == 0)
+                path += Separator();
+        }
+        if (Pick(0, 6) == 0)
+            path = u" " + path + u" ";
+        return path;
+    }
+
+    Mask NextMask() {
+        // Mostly every part, as the path class asks; sometimes a subset.
+        if (Pick(0, 3) != 0)
+            return {true, true, true, true};
+        return {Pick(0, 1) == 1, Pick(0, 1) == 1, Pick(0, 1) == 1, Pick(0, 1) == 1};
+    }
+
+private:
+    int Pick(int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(m_rng); }
+
+    std::u16string Prefix() {
+        static const std::u16string prefixes[] = {u"",
+                                                  u"C:",
+                                                  u"c:",
+                                                  u"z:\\",
+                                                  u"C:/",
+                                                  u"1:",
+                                                  u":",
+                                                  u"::",
+                                                  u"\\:",
+                                                  u".:",
+                                                  u"\\\\",
+                                                  u"\\\\srv\\share\\",
+                                                  u"//srv/share/",
+                                                  u"\\",
+                                                  u"/",
+                                                  u".\\",
+                                                  u"..\\",
+                                                  u"../",
+                                                  u"\\\\?\\C:\\",
+                                                  u"\u00e9:",
+                                                  u"C:\\\\"};
+        return prefixes[Pick(0, static_cast<int>(std::size(prefixes)) - 1)];
+    }
+
+    std::u16string Separator() {
+        static const std::u16string seps[] = {u"\\", u"/", u"\\\\", u"//", u"\\/", u"/\\"};
+        return seps[Pick(0, static_cast<int>(std::size(seps)) - 1)];
+    }
+
+    std::u16string Component() {
+        switch (Pick(0, 9)) {
+        case 0:
+            return u".";
+        case 1:
+            return u"..";
+        case 2:
+            return Word(Pick(1, 8)) + u"." + Word(Pick(0, 4));
+        case 3:
+            return u"." + Word(Pick(1, 5));
+        case 4:
+            return Word(Pick(1, 6)) + u".";
+        case 5:
+            return Word(Pick(1, 4)) + u"." + Word(Pick(1, 4)) + u"." + Word(Pick(0, 3));
+        case 6: // around the 255-unit part limits
+            return Word(Pick(245, 262));
+        case 7:
+            return Word(Pick(120, 140)) + u"." + Word(Pick(110, 140));
+        case 8:
+            return Word(Pick(1, 3)) + u"." + Word(Pick(250, 258));
+        default:
+            return Word(Pick(1, 12));
+        }
+    }
+
+    std::u16string Word(int length) {
+        static const char16_t units[] = u"abcXYZ019_- ~$\u00e4\u00df\u4e2d:";
+        std::u16string w;
+        for (int i = 0; i < length; ++i)
+            w += units[Pick(0, static_cast<int>(std::size(units)) - 2)];
+        return w;
+    }
+
+    std::mt19937 m_rng;
+};
+
+TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
+    PathGenerator gen(20240611u);
+    constexpr int kPaths = 5000;
+    int differences = 0;
+    int overlong = 0, withDrive = 0, withDir = 0, withExt = 0, partial = 0;
+    for (int i = 0; i < kPaths; ++i) {
+        const std::u16string path = gen.Next();
+        const Mask mask = gen.NextMask();
+        const Split expected = RuntimeSplit(path, mask);
+        const Split actual = CoreSplit(path, mask);
+        overlong += expected.ok ? 0 : 1;
+        withDrive += expected.drive.empty() ? 0 : 1;
+        withDir += expected.dir.empty() ? 0 : 1;
+        withExt += expected.ext.empty() ? 0 : 1;
+        partial += (mask.drive && mask.dir && mask.fname && mask.ext) ? 0 : 1;
+        if (!Same(expected, actual)) {
+            if (++differences <= 20)
+                ADD_FAILURE() << "path " << Show(path) << " mask " << mask.drive << mask.dir
+                              << mask.fname << mask.ext << "\n  runtime: " << Show(expected)
+                              << "\n  core:    " << Show(actual);
+        }
+    }
+    EXPECT_EQ(differences, 0);
+    // The generator must reach every class of input, or the comparison
+    // proves little.
+    EXPECT_GT(overlong, 50);
+    EXPECT_GT(withDrive, 500);
+    EXPECT_GT(withDir, 1000);
+    EXPECT_GT(withExt, 1000);
+    EXPECT_GT(partial, 500);
+}
+
+// Inputs chosen by hand at the edges of each rule.
+TEST(PathSplitDifferential, HandPickedEdgesSplitAsTheRuntimeDoes) {
+    const std::u16string longPart(255, u'n');
+    const std::u16string cases[] = {
+        u"",
+        u"C:",
+        u"C:\\",
+        u"C:file",
+        u"\\",
+        u"/",
+        u".",
+        u"..",
+        u"...",
+        u".ext",
+        u"name.",
+        u"a.b.c",
+        u"dir.d\\name",
+        u"\\\\srv\\share",
+        u"\\\\srv\\share\\",
+        u"\\\\srv\\share\\d\\f.txt",
+        u"C:/a/b/f.txt",
+        u"C:\\a\\\\b\\\\",
+        u"  C:\\Work\\Project.ACD  ",
+        u"a:b:c",
+        u"\\" + longPart.substr(0, 254) + u"\\f",
+        u"\\" + longPart + u"\\f",
+        longPart,
+        longPart + u"n",
+        u"f." + longPart.substr(0, 254),
+        u"f." + longPart,
+    };
+    for (const auto& path : cases) {
+        SCOPED_TRACE(Show(path));
+        const Mask all{true, true, true, true};
+        EXPECT_EQ(Show(CoreSplit(path, all)), Show(RuntimeSplit(path, all)));
+    }
+}
+
+} // namespace
