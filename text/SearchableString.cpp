@@ -1,0 +1,676 @@
+#include "text/SearchableString.h"
+
+#include "framework/CaseMap.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+// Substring scans. Forward and backward, exact and case-blind. With SSE2 the
+// scans test eight positions at a time: a position is a candidate when its
+// first character and the character where the needle's last one would fall
+// both fit; only candidates are compared in full. Case-blind scans compare
+// characters lowered through the case map; their candidate test accepts the
+// ASCII characters that lower to the needle's character and every non-ASCII
+// character (several of which lower to ASCII letters, e.g. KELVIN SIGN).
+namespace {
+
+using TextView = std::u16string_view;
+
+int Length(const char16_t* s) {
+    return s ? static_cast<int>(std::char_traits<char16_t>::length(s)) : 0;
+}
+
+std::u16string Lowered(const char16_t* s, int n) {
+    std::u16string out(s, static_cast<std::size_t>(n));
+    vu::MakeLower(out.data(), out.size());
+    return out;
+}
+
+bool EqualLowered(const char16_t* s, const char16_t* lowered, int m) {
+    for (int k = 0; k < m; ++k)
+        if (vu::ToLower(s[k]) != lowered[k])
+            return false;
+    return true;
+}
+
+// The characters a scan's candidate test accepts for one needle character.
+struct CharClass {
+    char16_t a, b; // accepted exactly (equal when only one)
+    bool nonAscii; // every character >= 0x80 is accepted too
+
+    static CharClass Exact(char16_t c) { return {c, c, false}; }
+    // Characters whose lower case is the (already lowered) c.
+    static CharClass Folded(char16_t c) {
+        if (c >= 0x80)
+            return {0xFFFF, 0xFFFF, true}; // no ASCII character lowers to c
+        char16_t other = c;
+        if (c >= u'a' && c <= u'z' && vu::ToLower(static_cast<char16_t>(c - 32)) == c)
+            other = static_cast<char16_t>(c - 32);
+        return {c, other, true};
+    }
+    bool Accepts(char16_t x) const { return x == a || x == b || (nonAscii && x >= 0x80); }
+};
+
+#if defined(__SSE2__)
+struct CharClassVec {
+    __m128i a, b;
+    bool nonAscii;
+    explicit CharClassVec(const CharClass& c)
+        : a(_mm_set1_epi16(static_cast<short>(c.a))), b(_mm_set1_epi16(static_cast<short>(c.b))),
+          nonAscii(c.nonAscii) {}
+    __m128i Match(__m128i x) const {
+        __m128i m = _mm_or_si128(_mm_cmpeq_epi16(x, a), _mm_cmpeq_epi16(x, b));
+        if (nonAscii) {
+            const __m128i high = _mm_and_si128(x, _mm_set1_epi16(static_cast<short>(0xFF80)));
+            const __m128i ascii = _mm_cmpeq_epi16(high, _mm_setzero_si128());
+            m = _mm_or_si128(m, _mm_andnot_si128(ascii, _mm_set1_epi16(-1)));
+        }
+        return m;
+    }
+};
+
+inline __m128i Load(const char16_t* p) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+}
+#endif
+
+// A needle ready to scan for: its first and last character classes and how to
+// verify a candidate.
+struct Needle {
+    const char16_t* text; // lowered when noCase
+    int length;
+    bool noCase;
+    CharClass first, last;
+
+    Needle(const char16_t* t, int m, bool nc)
+        : text(t), length(m), noCase(nc),
+          first(nc ? CharClass::Folded(t[0]) : CharClass::Exact(t[0])),
+          last(nc ? CharClass::Folded(t[m - 1]) : CharClass::Exact(t[m - 1])) {}
+
+    bool MatchesAt(const char16_t* s) const {
+        if (noCase)
+            return EqualLowered(s, text, length);
+        return std::memcmp(s, text, sizeof(char16_t) * static_cast<std::size_t>(length)) == 0;
+    }
+};
+
+// First position p >= from with p + m <= n where the needle matches, or -1.
+int ScanForward(const char16_t* s, int n, int from, const Needle& nd) {
+    const int m = nd.length;
+    const int lastStart = n - m;
+    int i = from;
+#if defined(__SSE2__)
+    const CharClassVec first(nd.first), last(nd.last);
+    for (; i + 8 <= lastStart + 1; i += 8) {
+        const __m128i hit =
+            _mm_and_si128(first.Match(Load(s + i)), last.Match(Load(s + i + m - 1)));
+        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+        while (mask) {
+            const int k = __builtin_ctz(mask) / 2;
+            if (nd.MatchesAt(s + i + k))
+                return i + k;
+            mask &= ~(3u << (2 * k));
+        }
+    }
+#endif
+    for (; i <= lastStart; ++i)
+        if (nd.first.Accepts(s[i]) && nd.MatchesAt(s + i))
+            return i;
+    return -1;
+}
+
+// Last position p <= start (p + m <= n) where the needle matches, or -1.
+int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
+    const int m = nd.length;
+    int i = std::min(start, n - m);
+#if defined(__SSE2__)
+    const CharClassVec first(nd.first), last(nd.last);
+    for (; i - 7 >= 0; i -= 8) {
+        const char16_t* block = s + i - 7;
+        const __m128i hit =
+            _mm_and_si128(first.Match(Load(block)), last.Match(Load(block + m - 1)));
+        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+        while (mask) {
+            const int k = (31 - __builtin_clz(mask)) / 2;
+            if (nd.MatchesAt(block + k))
+                return i - 7 + k;
+            mask &= ~(3u << (2 * k));
+        }
+    }
+#endif
+    for (; i >= 0; --i)
+        if (nd.first.Accepts(s[i]) && nd.MatchesAt(s + i))
+            return i;
+    return -1;
+}
+
+// Delimiter membership in constant time for ASCII, a short scan beyond.
+class DelimiterSet {
+public:
+    explicit DelimiterSet(const CString& delimiters) : m_all(delimiters.View()) {
+        for (char16_t c : m_all)
+            if (c < 128)
+                m_ascii[c >> 6] |= std::uint64_t{1} << (c & 63);
+    }
+    bool Contains(char16_t c) const {
+        if (c < 128)
+            return (m_ascii[c >> 6] >> (c & 63)) & 1;
+        return m_all.find(c) != TextView::npos;
+    }
+
+private:
+    TextView m_all;
+    std::uint64_t m_ascii[2] = {0, 0};
+};
+
+// Whether the m characters at index of s (length n) stand between boundaries.
+// With lowered, the neighbours are lowered before the test (as in a lowered
+// copy of the text).
+bool IsWholeWord(const char16_t* s, int n, int index, int m, const DelimiterSet& delimiters,
+                 bool lowered) {
+    auto isDelimiter = [&](char16_t c) {
+        return delimiters.Contains(lowered ? vu::ToLower(c) : c);
+    };
+    if (index - 1 >= 0 && !isDelimiter(s[index - 1]))
+        return false;
+    if (index < n - m && !isDelimiter(s[index + m]))
+        return false;
+    return true;
+}
+
+} // namespace
+
+// ---- Construction ---------------------------------------------------------
+
+const char16_t VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS[] =
+    u" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~";
+
+static CString Widened(const unsigned char* text) {
+    std::u16string out;
+    if (text)
+        for (; *text; ++text)
+            out.push_back(*text);
+    return CString(std::move(out));
+}
+
+VU_CSearchableString::VU_CSearchableString() : m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::VU_CSearchableString(const CString& text)
+    : CString(text), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::VU_CSearchableString(const VU_CSearchableString& other)
+    : CString(other), m_tokenDelimiters(other.m_tokenDelimiters) {
+    m_regExp = other.m_regExp;
+}
+
+VU_CSearchableString::VU_CSearchableString(char16_t ch, int repeat)
+    : CString(ch, repeat), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::VU_CSearchableString(const char16_t* text, int length)
+    : CString(text && length > 0 ? CString(text, length) : CString()),
+      m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::VU_CSearchableString(const unsigned char* text)
+    : CString(Widened(text)), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::VU_CSearchableString(const char16_t* text)
+    : CString(text), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::VU_CSearchableString(const char* text)
+    : CString(Widened(reinterpret_cast<const unsigned char*>(text))),
+      m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
+
+VU_CSearchableString::~VU_CSearchableString() = default;
+
+VU_CSearchableString& VU_CSearchableString::operator=(const VU_CSearchableString& other) {
+    if (this != &other) {
+        CString::operator=(other);
+        m_regExp = other.m_regExp;
+        m_tokenDelimiters = other.m_tokenDelimiters;
+    }
+    return *this;
+}
+
+VU_CSearchableString& VU_CSearchableString::operator=(const CString& text) {
+    CString::operator=(text);
+    return *this;
+}
+
+VU_CSearchableString& VU_CSearchableString::operator=(const char16_t* text) {
+    CString::operator=(text);
+    return *this;
+}
+
+void VU_CSearchableString::SetTokenDelimiters(const char16_t* delimiters) {
+    m_tokenDelimiters = delimiters; // null gives an empty set
+}
+
+void VU_CSearchableString::SetTokenDelimiters(const CString& delimiters) {
+    m_tokenDelimiters = delimiters;
+}
+
+void VU_CSearchableString::SetText(std::u16string&& text) {
+    CString::operator=(CString(std::move(text)));
+}
+
+// ---- Editing --------------------------------------------------------------
+
+VU_CSearchableString& VU_CSearchableString::InsertAt(int index, char16_t ch) {
+    const char16_t text[2] = {ch, 0};
+    return InsertAt(index, text);
+}
+
+VU_CSearchableString& VU_CSearchableString::InsertAt(int index, const char16_t* text) {
+    const int m = Length(text);
+    if (m == 0 || index < 0)
+        return *this;
+    const TextView old = View();
+    std::u16string out;
+    if (index < static_cast<int>(old.size())) {
+        out.reserve(old.size() + m);
+        out.append(old.substr(0, index)).append(text, m).append(old.substr(index));
+    } else {
+        // Beyond the end the gap is filled with blanks.
+        out.reserve(static_cast<std::size_t>(index) + m);
+        out.append(old).append(index - old.size(), u' ').append(text, m);
+    }
+    SetText(std::move(out));
+    return *this;
+}
+
+VU_CSearchableString& VU_CSearchableString::DeleteAt(int index, int count) {
+    const int n = GetLength();
+    if (index < 0 || index >= n)
+        return *this;
+    if (count < 0 || count > n - index)
+        count = n - index;
+    if (count == 0)
+        return *this;
+    const TextView old = View();
+    std::u16string out;
+    out.reserve(n - count);
+    out.append(old.substr(0, index)).append(old.substr(index + count));
+    SetText(std::move(out));
+    return *this;
+}
+
+VU_CSearchableString& VU_CSearchableString::ReplaceAt(int index, int count, const char16_t* text) {
+    const int n = GetLength();
+    index = std::clamp(index, 0, n);
+    count = std::clamp(count, 0, n - index);
+    const int m = Length(text);
+    if (count == 0 && m == 0)
+        return *this;
+    const TextView old = View();
+    std::u16string out;
+    out.reserve(static_cast<std::size_t>(n) - count + m);
+    out.append(old.substr(0, index)).append(text ? text : u"", m).append(old.substr(index + count));
+    SetText(std::move(out));
+    return *this;
+}
+
+// ---- Searching ------------------------------------------------------------
+
+int VU_CSearchableString::CheckForWholeWord(int index, int length) const {
+    if (index < 0)
+        return index;
+    const DelimiterSet delimiters(m_tokenDelimiters);
+    return IsWholeWord(GetString(), GetLength(), index, length, delimiters, false) ? index : -1;
+}
+
+int VU_CSearchableString::FindExact(const char16_t* text, int start, BOOL wholeWord,
+                                    bool noCase) const {
+    const int m = Length(text);
+    const int n = GetLength();
+    start = std::max(start, 0);
+    if (m == 0 || start > n - m)
+        return -1;
+    std::u16string lowered;
+    if (noCase)
+        lowered = Lowered(text, m);
+    const Needle needle(noCase ? lowered.c_str() : text, m, noCase);
+    const char16_t* s = GetString();
+    if (!wholeWord)
+        return ScanForward(s, n, start, needle);
+    const DelimiterSet delimiters(m_tokenDelimiters);
+    // A rejected occurrence is skipped whole: with a single character the
+    // search resumes at the next one, with a text past the occurrence.
+    for (int p = ScanForward(s, n, start, needle); p >= 0; p = ScanForward(s, n, p + m, needle))
+        if (IsWholeWord(s, n, p, m, delimiters, noCase))
+            return p;
+    return -1;
+}
+
+int VU_CSearchableString::FindN(char16_t ch, int from, int to, BOOL wholeWord) {
+    if (from == to)
+        to = from + 1;
+    const int n = GetLength();
+    from = std::max(from, 0);
+    to = std::min(to, n);
+    if (from >= to)
+        return -1;
+    const Needle needle(&ch, 1, false);
+    const int p = ScanForward(GetString(), to, from, needle);
+    return wholeWord ? CheckForWholeWord(p, 1) : p;
+}
+
+int VU_CSearchableString::Find(const char16_t* text, int start, BOOL wholeWord) {
+    return FindExact(text, start, wholeWord, false);
+}
+
+int VU_CSearchableString::Find(char16_t ch, int start, BOOL wholeWord) {
+    const char16_t text[2] = {ch, 0};
+    return FindExact(text, start, wholeWord, false);
+}
+
+int VU_CSearchableString::FindNoCase(const char16_t* text, int start, BOOL wholeWord) {
+    return FindExact(text, start, wholeWord, true);
+}
+
+int VU_CSearchableString::FindNoCase(char16_t ch, int start, BOOL wholeWord) {
+    // Compared as unsigned, -1 loses to any real position.
+    const unsigned lower = static_cast<unsigned>(Find(vu::ToLower(ch), start, wholeWord));
+    const unsigned upper = static_cast<unsigned>(Find(vu::ToUpper(ch), start, wholeWord));
+    return static_cast<int>(std::min(lower, upper));
+}
+
+int VU_CSearchableString::InternalReverseFind(const char16_t* text, int start, BOOL wholeWord,
+                                              bool noCase) {
+    const int m = Length(text);
+    const int n = GetLength();
+    if (m == 0 || n == 0 || start < -1)
+        return -1;
+    if (start == -1 || start >= n)
+        start = n - 1;
+    std::u16string lowered;
+    if (noCase)
+        lowered = Lowered(text, m);
+    const Needle needle(noCase ? lowered.c_str() : text, m, noCase);
+    const char16_t* s = GetString();
+    int p = ScanBackward(s, n, start, needle);
+    if (!wholeWord)
+        return p;
+    const DelimiterSet delimiters(m_tokenDelimiters);
+    for (; p >= 0; p = ScanBackward(s, n, p - 1, needle))
+        if (IsWholeWord(s, n, p, m, delimiters, false))
+            return p;
+    return -1;
+}
+
+int VU_CSearchableString::ReverseFind(const char16_t* text, int start, BOOL wholeWord) {
+    return InternalReverseFind(text, start, wholeWord, false);
+}
+
+int VU_CSearchableString::ReverseFind(char16_t ch) {
+    const Needle needle(&ch, 1, false);
+    return ScanBackward(GetString(), GetLength(), GetLength() - 1, needle);
+}
+
+int VU_CSearchableString::ReverseFindNoCase(const char16_t* text, int start, BOOL wholeWord) {
+    return InternalReverseFind(text, start, wholeWord, true);
+}
+
+int VU_CSearchableString::ReverseFindNoCase(char16_t ch, int start, BOOL wholeWord) {
+    const char16_t text[2] = {ch, 0};
+    return ReverseFindNoCase(text, start, wholeWord);
+}
+
+int VU_CSearchableString::FindRegularExp(const char16_t* pattern, int start) {
+    m_regExp.RegComp(pattern); // on failure the previous pattern stays in use
+    start = std::max(start, 0);
+    if (start > GetLength())
+        return -1;
+    const int found = m_regExp.RegFind(GetString() + start);
+    return found < 0 ? -1 : found + start;
+}
+
+// ---- Replacing ------------------------------------------------------------
+
+bool VU_CSearchableString::IsReplaceAtOverridden() const {
+#if defined(__GXX_ABI_VERSION) && (defined(__x86_64__) || defined(__i386__))
+    // Itanium C++ ABI (g++, clang, mingw-w64 on x86): a pointer to a virtual
+    // member function holds 1 + the byte offset of its vtable slot. The entry
+    // in that slot of this object's vtable is our own ReplaceAt unless the
+    // dynamic type overrides it.
+    using ReplaceFn = VU_CSearchableString& (VU_CSearchableString::*)(int, int, const char16_t*);
+    static_assert(sizeof(ReplaceFn) == 2 * sizeof(std::uintptr_t));
+    static const std::uintptr_t slot = [] {
+        const ReplaceFn pmf = &VU_CSearchableString::ReplaceAt;
+        std::uintptr_t words[2];
+        std::memcpy(words, &pmf, sizeof pmf);
+        return words[0];
+    }();
+    auto entry = [](const VU_CSearchableString* object) {
+        const char* vtable;
+        std::memcpy(&vtable, static_cast<const void*>(object), sizeof vtable);
+        const void* fn;
+        std::memcpy(&fn, vtable + (slot - 1), sizeof fn);
+        return fn;
+    };
+    if ((slot & 1) == 0) // not laid out as expected: assume overridden
+        return typeid(*this) != typeid(VU_CSearchableString);
+    static const void* const ownEntry = [&entry] {
+        const VU_CSearchableString probe;
+        return entry(&probe);
+    }();
+    return entry(this) != ownEntry;
+#else
+    return typeid(*this) != typeid(VU_CSearchableString);
+#endif
+}
+
+// Replace-all in one pass over the text: the occurrences found are exactly
+// those the replacement-by-replacement loop finds (non-overlapping, from the
+// start, never inside inserted text), so the result is the same.
+int VU_CSearchableString::ReplaceAllInOnePass(const char16_t* find, int m,
+                                              std::u16string_view replacement, bool noCase) {
+    const int n = GetLength();
+    const char16_t* s = GetString();
+    std::u16string lowered;
+    if (noCase)
+        lowered = Lowered(find, m);
+    const Needle needle(noCase ? lowered.c_str() : find, m, noCase);
+    std::u16string out;
+    out.reserve(replacement.size() <= static_cast<std::size_t>(m) ? n : n + n / 8);
+    int copied = 0, count = 0;
+    for (int p = ScanForward(s, n, 0, needle); p >= 0; p = ScanForward(s, n, p + m, needle)) {
+        out.append(s + copied, p - copied).append(replacement);
+        copied = p + m;
+        ++count;
+        if (out.size() > static_cast<std::size_t>(INT_MAX))
+            return 0; // the result could not be held: leave the text as it is
+    }
+    if (count == 0)
+        return 0;
+    out.append(s + copied, n - copied);
+    if (out.size() > static_cast<std::size_t>(INT_MAX))
+        return 0;
+    SetText(std::move(out));
+    return count;
+}
+
+int VU_CSearchableString::ReplaceText(const char16_t* find, const char16_t* replacement, BOOL all,
+                                      bool noCase) {
+    const int m = Length(find);
+    if (m == 0)
+        return 0;
+    const int r = Length(replacement);
+    if (!replacement)
+        replacement = u"";
+    if (all && !IsReplaceAtOverridden())
+        return ReplaceAllInOnePass(find, m, std::u16string_view(replacement, r), noCase);
+
+    if (!noCase) {
+        // Each search runs on the text as ReplaceAt left it.
+        int count = 0;
+        for (int p = FindExact(find, 0, FALSE, false); p >= 0;
+             p = FindExact(find, p + r, FALSE, false)) {
+            ReplaceAt(p, m, replacement);
+            ++count;
+            if (!all)
+                break;
+        }
+        return count;
+    }
+    // Case-blind: the occurrences come from a lowered copy of the text as it
+    // was; the real positions move by what the replacements before added.
+    const VU_CSearchableString copy(static_cast<const CString&>(*this));
+    int count = 0, shift = 0;
+    for (int p = copy.FindExact(find, 0, FALSE, true); p >= 0;
+         p = copy.FindExact(find, p + m, FALSE, true)) {
+        ReplaceAt(p + shift, m, replacement);
+        shift += r - m;
+        ++count;
+        if (!all)
+            break;
+    }
+    return count;
+}
+
+int VU_CSearchableString::FindReplace(const char16_t* find, const char16_t* replacement, BOOL all,
+                                      BOOL /*wholeWord: ignored*/) {
+    return ReplaceText(find, replacement, all, false);
+}
+
+int VU_CSearchableString::FindReplaceNoCase(const char16_t* find, const char16_t* replacement,
+                                            BOOL all, BOOL /*wholeWord: ignored*/) {
+    return ReplaceText(find, replacement, all, true);
+}
+
+int VU_CSearchableString::FindReplaceRegularExp(const char16_t* pattern,
+                                                const char16_t* replacement, BOOL all) {
+    m_regExp.RegComp(pattern); // on failure the previous pattern stays in use
+    const int r = Length(replacement);
+    if (!replacement)
+        replacement = u"";
+    if (all && !IsReplaceAtOverridden())
+        return RegularExpReplaceAllInOnePass(std::u16string_view(replacement, r));
+
+    // Each search starts right after the inserted replacement, on the text as
+    // ReplaceAt left it; after an empty match one more character is skipped.
+    int count = 0;
+    for (int from = 0; from <= GetLength();) {
+        const int found = m_regExp.RegFind(GetString() + from);
+        if (found < 0)
+            break;
+        const int at = from + found;
+        const int length = m_regExp.GetFindLen();
+        ReplaceAt(at, length, replacement);
+        ++count;
+        if (!all)
+            break;
+        from = at + r + (length == 0 ? 1 : 0);
+    }
+    return count;
+}
+
+// The regular-expression replace-all in one pass: every search runs on the
+// unchanged rest of the original text, which is what the loop above searches
+// after each replacement.
+int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view replacement) {
+    const int n = GetLength();
+    const char16_t* s = GetString();
+    std::u16string out;
+    int copied = 0, count = 0;
+    for (int from = 0; from <= n;) {
+        const int found = m_regExp.RegFind(s + from);
+        if (found < 0)
+            break;
+        const int at = from + found;
+        const int length = m_regExp.GetFindLen();
+        if (count == 0)
+            out.reserve(n);
+        out.append(s + copied, at - copied).append(replacement);
+        copied = at + length;
+        ++count;
+        from = at + length;
+        if (length == 0) {
+            // An empty match keeps the character after it and moves on.
+            if (at < n)
+                out.push_back(s[at]);
+            copied = from = at + 1;
+        }
+        if (out.size() > static_cast<std::size_t>(INT_MAX))
+            return 0;
+    }
+    if (count == 0)
+        return 0;
+    if (copied < n)
+        out.append(s + copied, n - copied);
+    if (out.size() > static_cast<std::size_t>(INT_MAX))
+        return 0;
+    SetText(std::move(out));
+    return count;
+}
+
+// ---- Fields ---------------------------------------------------------------
+
+int VU_CSearchableString::GetFieldCount(char16_t delimiter) {
+    const char16_t text[2] = {delimiter, 0};
+    return GetFieldCount(text);
+}
+
+int VU_CSearchableString::GetFieldCount(const char16_t* delimiter) {
+    const int m = Length(delimiter);
+    int count = 1;
+    if (m == 0)
+        return count;
+    for (int p = FindExact(delimiter, 0, FALSE, false); p >= 0;
+         p = FindExact(delimiter, p + m, FALSE, false))
+        ++count;
+    return count;
+}
+
+VU_CSearchableString VU_CSearchableString::GetField(const char16_t* delimiter, int n) const {
+    if (n < 0)
+        return VU_CSearchableString();
+    const int m = Length(delimiter);
+    const int length = GetLength();
+    int cursor = 0, begin = 0, end = 0;
+    for (int k = 0; k <= n; ++k) {
+        begin = cursor;
+        const int p = m == 0 ? -1 : FindExact(delimiter, cursor, FALSE, false);
+        if (p >= 0) {
+            end = p;
+            cursor = p + m;
+        } else {
+            end = cursor = length;
+            if (k < n) // no further field: the answer is empty
+                return VU_CSearchableString();
+        }
+    }
+    return VU_CSearchableString(GetString() + begin, end - begin);
+}
+
+VU_CSearchableString VU_CSearchableString::GetField(char16_t delimiter, int n) const {
+    const char16_t text[2] = {delimiter, 0};
+    return GetField(text, n);
+}
+
+VU_CSearchableString VU_CSearchableString::GetDelimitedField(const char16_t* open,
+                                                             const char16_t* close, int n) const {
+    if (n < 0)
+        return VU_CSearchableString();
+    const int openLength = Length(open), closeLength = Length(close);
+    int cursor = 0, begin = 0, end = 0;
+    for (int k = n; k >= 0; --k) {
+        const int p = FindExact(open, cursor, FALSE, false);
+        if (p < 0)
+            return VU_CSearchableString();
+        begin = p + openLength;
+        end = FindExact(close, begin, FALSE, false);
+        if (end < 0)
+            return VU_CSearchableString();
+        cursor = end + closeLength;
+    }
+    return VU_CSearchableString(GetString() + begin, end - begin);
+}
