@@ -1,0 +1,10 @@
+#include "framework/Map.h"
+
+UINT HashString(const char16_t* key) {
+    UINT hash = 0;
+    if (key == nullptr)
+        return hash;
+    for (; *key != 0; ++key)
+        hash = (hash << 5) + hash + *key;
+    return hash;
+}

@@ -1,0 +1,57 @@
+// Every framework header compiles on its own and together.
+#include "framework/Array.h"
+#include "framework/CString.h"
+#include "framework/CaseMap.h"
+#include "framework/InvalidArgException.h"
+#include "framework/Map.h"
+#include "framework/Object.h"
+#include "framework/Point.h"
+#include "framework/Rect.h"
+#include "framework/Size.h"
+#include "framework/StringArray.h"
+#include "framework/TypedArrays.h"
+#include "framework/Types.h"
+
+#include <gtest/gtest.h>
+
+TEST(FrameworkHeaders, ScalarTypesHaveTheSystemWidths) {
+    static_assert(sizeof(BYTE) == 1 && sizeof(WORD) == 2 && sizeof(UINT) == 4);
+    static_assert(sizeof(INT_PTR) == sizeof(void*) && sizeof(UINT_PTR) == sizeof(void*));
+    static_assert(std::is_same_v<DWORD, unsigned long> && std::is_same_v<LONG, long>);
+    static_assert(std::is_same_v<BOOL, int> && std::is_same_v<COLORREF, DWORD>);
+    static_assert(sizeof(CRect) == 4 * sizeof(LONG) && sizeof(CPoint) == 2 * sizeof(LONG));
+    static_assert(std::is_standard_layout_v<CRect> && std::is_standard_layout_v<CPoint>);
+    EXPECT_EQ(TRUE, 1);
+    EXPECT_EQ(FALSE, 0);
+}
+
+namespace {
+struct Handle__;
+typedef Handle__* HANDLE_T;
+} // namespace
+
+TEST(FrameworkHeaders, TemplatesInstantiate) {
+    CArray<int, int> ints;
+    ints.Add(1);
+    CStringArray strings;
+    strings.Add(u"a");
+    strings.Add(CString(u"b"));
+    CObArray objects;
+    objects.Add(nullptr);
+    CUIntArray uints;
+    uints.SetSize(3);
+    CWordArray words;
+    words.InsertAt(2, 7);
+    CMap<int, int, CString, const CString&> byInt;
+    byInt[5] = u"five";
+    CMap<CString, const CString&, int, int> byName;
+    byName.SetAt(CString(u"x"), 1);
+    CMap<HANDLE_T, HANDLE_T&, int, int> byHandle;
+    HANDLE_T h = reinterpret_cast<HANDLE_T>(0x100);
+    byHandle[h] = 2;
+    int v = 0;
+    EXPECT_TRUE(byHandle.Lookup(h, v));
+    EXPECT_EQ(v, 2);
+    EXPECT_EQ(words.GetSize(), 3);
+    EXPECT_EQ(strings.GetSize(), 2);
+}
