@@ -1,0 +1,174 @@
+#include "tree/TreeListGeometry.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+using namespace vu::treelist;
+
+namespace {
+
+TEST(TreeListGeometry, ExpandButtonSpansSeventeenPixelsBothEndsIncluded) {
+    struct Row {
+        int level, gutter, x;
+        bool on;
+    } rows[] = {
+        {0, 0, -1, false},  {0, 0, 0, true},   {0, 0, 16, true},  {0, 0, 17, false},
+        {2, 0, 31, false},  {2, 0, 32, true},  {2, 0, 48, true},  {2, 0, 49, false},
+        {1, 20, 35, false}, {1, 20, 36, true}, {1, 20, 52, true}, {1, 20, 53, false},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE("level " + std::to_string(r.level) + " gutter " + std::to_string(r.gutter) +
+                     " x " + std::to_string(r.x));
+        EXPECT_EQ(r.on, IsOnExpandButton(r.x, r.level, r.gutter));
+    }
+    EXPECT_TRUE(IsOnButtonOrText(500, 3, 10));
+    EXPECT_FALSE(IsOnButtonOrText(57, 3, 10));
+    EXPECT_EQ(3 * 16 + 10 + 7, TreeLineX(3, 10));
+}
+
+TEST(TreeListGeometry, RowsOfAppendedChildren) {
+    // Parent at row 4 with 3 children and 5 shown descendants: after the last shown one.
+    EXPECT_EQ(10, AppendedChildRow(4, 5, 3));
+    // Collapsed parent with 3 children: the row lands `prior` rows below it.
+    EXPECT_EQ(8, AppendedChildRow(4, 0, 3));
+    EXPECT_EQ(3, AppendedChildOffset(0, 3));
+    EXPECT_EQ(0, AppendedChildOffset(2, 3));
+    // First child.
+    EXPECT_EQ(5, AppendedChildRow(4, 0, 0));
+    // Roots: only the preceding root's shown rows count.
+    EXPECT_EQ(0, InsertedRootRow(0, 99));
+    EXPECT_EQ(2, InsertedRootRow(2, 0));
+    EXPECT_EQ(5, InsertedRootRow(2, 3));
+}
+
+TEST(TreeListGeometry, ScrollAdvancesOneRowPerWholePage) {
+    struct Row {
+        const char* name;
+        int top, row, height, client, expected;
+    } rows[] = {
+        {"inside the first page", 0, 9, 16, 160, 0},
+        {"15 below the top of a 10-row page", 5, 20, 16, 160, 6},
+        {"exactly one page below", 0, 10, 16, 160, 1},
+        {"three pages below", 0, 35, 16, 160, 3},
+        {"above the top truncates toward zero", 20, 5, 16, 160, 19},
+        {"partial page counts whole rows only", 0, 30, 16, 175, 3},
+        {"zero row height", 4, 100, 0, 160, 4},
+        {"client smaller than a row", 4, 100, 16, 10, 4},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        EXPECT_EQ(r.expected, ScrollTopForRow(r.top, r.row, r.height, r.client));
+    }
+}
+
+TEST(TreeListGeometry, OverflowOfRows) {
+    EXPECT_FALSE(RowsOverflow(0, 16, 160));
+    EXPECT_FALSE(RowsOverflow(10, 16, 160)) << "exactly one page";
+    EXPECT_TRUE(RowsOverflow(11, 16, 160));
+    EXPECT_TRUE(RowsOverflow(10, 16, 159));
+    EXPECT_FALSE(RowsOverflow(10, 0, 160));
+}
+
+// Rows written as a string: 'n' normal, 'h' header, 's' separator.
+KeyStep Step(const std::string& rows, int selection, int step) {
+    return StepOverUnselectable(selection, static_cast<int>(rows.size()), step,
+                                [&](int row) { return rows[row] != 'n'; });
+}
+
+TEST(TreeListGeometry, KeyboardStepsOverHeadersAndSeparators) {
+    struct Row {
+        const char* name;
+        const char* rows;
+        int selection, step;
+        bool swallow;
+        int preselect;
+    } rows[] = {
+        {"down onto a normal row", "nnn", 0, 1, false, -1},
+        {"down over a header", "nhn", 0, 1, false, 1},
+        {"down over header and separator", "nhsn", 0, 1, false, 2},
+        {"down before a trailing run", "nnss", 1, 1, true, -1},
+        {"down on the last row", "nnn", 2, 1, false, -1},
+        {"up over a separator", "nsn", 2, -1, false, 1},
+        {"up with headers up to row 0", "hsn", 2, -1, true, -1},
+        {"up on row 0", "nn", 0, -1, false, -1},
+        {"no selection", "nhn", -1, 1, false, -1},
+        {"selection past the end", "nhn", 3, 1, false, -1},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        const KeyStep s = Step(r.rows, r.selection, r.step);
+        EXPECT_EQ(r.swallow, s.swallow);
+        EXPECT_EQ(r.preselect, s.preselect);
+    }
+}
+
+TEST(TreeListGeometry, SplitColumnsLikeWcstok) {
+    struct Row {
+        const char16_t* text;
+        std::vector<std::u16string> parts;
+    } rows[] = {
+        {u"", {}},
+        {u"Motor", {u"Motor"}},
+        {u"Motor\tBOOL\tStart button", {u"Motor", u"BOOL", u"Start button"}},
+        {u"a\t\tb", {u"a", u"b"}},
+        {u"\ta\t", {u"a"}},
+        {u"\t\t", {}},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(std::string(r.text, r.text + std::u16string_view(r.text).size()));
+        const auto parts = SplitColumns(r.text);
+        ASSERT_EQ(r.parts.size(), parts.size());
+        for (size_t i = 0; i < parts.size(); ++i)
+            EXPECT_EQ(r.parts[i], std::u16string(parts[i]));
+    }
+}
+
+TEST(TreeListGeometry, ColumnStartsFollowTheTabStops) {
+    EXPECT_EQ((std::vector<int>{0, 66, 198}), ColumnStarts(3, {11, 33}, 6));
+    EXPECT_EQ((std::vector<int>{0, 66, 198, 330}), ColumnStarts(4, {11, 33}, 6))
+        << "past the last stop, the last spacing repeats";
+    EXPECT_EQ((std::vector<int>{0, 80, 160}), ColumnStarts(3, {10}, 8));
+    EXPECT_EQ((std::vector<int>{0, 8, 16}), ColumnStarts(3, {}, 1));
+    EXPECT_EQ((std::vector<int>{0, 50, 50}), ColumnStarts(3, {10, 4}, 5))
+        << "a stop left of the previous one does not move the column back";
+    EXPECT_TRUE(ColumnStarts(0, {11}, 6).empty());
+    EXPECT_EQ(1, ColumnAt(70, {0, 66, 198}));
+    EXPECT_EQ(0, ColumnAt(65, {0, 66, 198}));
+    EXPECT_EQ(2, ColumnAt(1000, {0, 66, 198}));
+    EXPECT_EQ(-1, ColumnAt(-1, {0, 66}));
+}
+
+TEST(TreeListGeometry, FitTextKeepsTheLongestPrefixWithTheMarker) {
+    const MeasureText fixed = [](std::u16string_view s) { return static_cast<int>(s.size()) * 5; };
+    struct Row {
+        const char* name;
+        const char16_t* text;
+        int width;
+        std::u16string expected;
+    } rows[] = {
+        {"fits", u"Motor", 25, u"Motor"},
+        {"one pixel short", u"Motors", 29, u" ... "},
+        {"prefix and marker", u"Conveyor_Speed", 45, u"Conv ... "},
+        {"only the marker", u"Conveyor", 25, u" ... "},
+        {"not even the marker", u"Conveyor", 24, u""},
+        {"empty text", u"", 0, u""},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        EXPECT_EQ(r.expected, FitText(r.text, r.width, fixed));
+    }
+    // Proportional widths: 'W' is wide, the rest narrow.
+    const MeasureText proportional = [](std::u16string_view s) {
+        int w = 0;
+        for (char16_t c : s)
+            w += c == u'W' ? 12 : 4;
+        return w;
+    };
+    const std::u16string fitted = FitText(u"abWWWWcd", 40, proportional);
+    EXPECT_EQ(u"abW ... ", fitted);
+    EXPECT_LE(proportional(fitted), 40);
+}
+
+} // namespace

@@ -1,0 +1,403 @@
+#include "tree/TreeNode.h"
+#include "tree/TreeNodeVisitor.h"
+
+#include "framework/InvalidArgException.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Builds nodes the way a control does: linked to the parent, appended to its
+// children, with level and handle set.
+CTreeNode* AddChild(CTreeNode* parent, const char16_t* text, int handle, unsigned long data = 0) {
+    auto* node = new CTreeNode(CString(text), -1, -1, data, handle, parent);
+    node->SetLevel(parent->GetLevel() + 1);
+    parent->Add(node);
+    return node;
+}
+
+std::string Narrow(const std::u16string& s) {
+    return std::string(s.begin(), s.end());
+}
+
+// root(1)
+//   a(2)
+//     a1(3)
+//     a2(4)
+//   b(5)
+//     b1(6)
+//   c(7)
+struct SampleTree {
+    SampleTree() : root(CString(u"root"), 0, 1, 100, 1, nullptr) {
+        a = AddChild(&root, u"a", 2, 200);
+        a1 = AddChild(a, u"a1", 3, 300);
+        a2 = AddChild(a, u"a2", 4, 400);
+        b = AddChild(&root, u"b", 5, 500);
+        b1 = AddChild(b, u"b1", 6, 600);
+        c = AddChild(&root, u"c", 7, 700);
+    }
+    CTreeNode root;
+    CTreeNode *a, *a1, *a2, *b, *b1, *c;
+};
+
+// ---- Construction and flags -------------------------------------------------
+
+TEST(TreeNode, DefaultsOfTheDefaultConstructor) {
+    CTreeNode node;
+    EXPECT_EQ(0, node.IsExpanded());
+    EXPECT_EQ(nullptr, node.GetParent());
+    EXPECT_EQ(-1, node.GetTreeNodeItemHandle());
+    EXPECT_EQ(0, node.GetLevel());
+    EXPECT_EQ(0u, node.GetItemData());
+    EXPECT_TRUE(node.GetDisplayText().IsEmpty());
+    EXPECT_TRUE(node.DrawLines());
+    EXPECT_FALSE(node.IsSeparator()) << "only the text constructors derive the separator flag";
+    EXPECT_FALSE(node.IsHeader());
+    EXPECT_EQ(-1, node.GetImageIndex(0));
+}
+
+TEST(TreeNode, EmptyTextMakesASeparatorAndLaterTextsDoNotChangeIt) {
+    CTreeNode separator(CString(u""), 1, 2, 0, 1, nullptr);
+    EXPECT_TRUE(separator.IsSeparator());
+    separator.SetDisplayText(CString(u"now with text"));
+    EXPECT_TRUE(separator.IsSeparator());
+
+    CTreeNode item(CString(u"x"), VU_CImageIndexArray(), 0, 2, nullptr);
+    EXPECT_FALSE(item.IsSeparator());
+    item.SetDisplayText(CString(u""));
+    EXPECT_FALSE(item.IsSeparator());
+}
+
+TEST(TreeNode, ConstructorStoresItsArguments) {
+    CTreeNode parent;
+    VU_CImageIndexArray images;
+    images.Add(4);
+    images.Add(5);
+    images.Add(6);
+    CTreeNode node(CString(u"Motor"), images, 42, 9, &parent);
+    images.SetAt(0, 99); // the node holds a copy
+    EXPECT_EQ(4, node.GetImageIndex(0));
+    EXPECT_EQ(5, node.GetSelectedImageIndex(0));
+    EXPECT_EQ(6, node.GetImageIndex(1));
+    EXPECT_EQ(42u, node.GetItemData());
+    EXPECT_EQ(9, node.GetTreeNodeItemHandle());
+    EXPECT_EQ(&parent, node.GetParent());
+    EXPECT_EQ(0, node.GetLevel());
+    EXPECT_TRUE(node.DrawLines());
+    EXPECT_FALSE(node.IsHeader());
+}
+
+TEST(TreeNode, LeafIsNeverExpanded) {
+    CTreeNode leaf(CString(u"leaf"), 0, 0, 0, 1, nullptr);
+    leaf.Expand(1);
+    EXPECT_EQ(0, leaf.IsExpanded());
+    leaf.SetExpandFlag(1);
+    EXPECT_EQ(0, leaf.IsExpanded());
+
+    AddChild(&leaf, u"child", 2);
+    leaf.SetExpandFlag(7); // the flag is stored as given
+    EXPECT_EQ(7, leaf.IsExpanded());
+    leaf.Expand(0);
+    EXPECT_EQ(0, leaf.IsExpanded());
+}
+
+// ---- Images ---------------------------------------------------------------------
+
+TEST(TreeNode, ImageLookups) {
+    VU_CImageIndexArray one;
+    one.Add(3);
+    VU_CImageIndexArray pair = VU_CImageIndexArray::Pair(3, 4);
+    VU_CImageIndexArray two;
+    for (int i : {10, 11, 20, 21})
+        two.Add(i);
+    struct Row {
+        const char* name;
+        const VU_CImageIndexArray* images;
+        int state;
+        int normal;
+        int selected;
+    } rows[] = {
+        {"empty array", nullptr, 0, -1, -1},
+        {"single entry, state 0", &one, 0, 3, -1},
+        {"one pair, state 0", &pair, 0, 3, 4},
+        {"one pair, state 1", &pair, 1, -1, -1},
+        {"one pair, negative state", &pair, -1, -1, -1},
+        {"two pairs, state 1", &two, 1, 20, 21},
+        {"two pairs, state 2", &two, 2, -1, -1},
+        {"huge state", &two, 0x40000000, -1, -1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        CTreeNode node(CString(u"n"), row.images ? *row.images : VU_CImageIndexArray(), 0, 1,
+                       nullptr);
+        EXPECT_EQ(row.normal, node.GetImageIndex(row.state));
+        EXPECT_EQ(row.selected, node.GetSelectedImageIndex(row.state));
+    }
+}
+
+TEST(ImageIndexArray, CopyAndAssignmentCopyElementByElement) {
+    VU_CImageIndexArray source = VU_CImageIndexArray::Pair(1, 2);
+    VU_CImageIndexArray copy(source);
+    ASSERT_EQ(2, copy.GetSize());
+    EXPECT_EQ(2, copy.GetAt(1));
+
+    VU_CImageIndexArray target;
+    for (int i = 0; i < 5; ++i)
+        target.Add(9);
+    target = source; // the target is emptied first, then sized to the source
+    ASSERT_EQ(2, target.GetSize());
+    EXPECT_EQ(1, target.GetAt(0));
+
+    VU_CImageIndexArray& self = target;
+    target = self;
+    ASSERT_EQ(2, target.GetSize());
+    EXPECT_EQ(2, target.GetAt(1));
+}
+
+// ---- Counts and searches ------------------------------------------------------
+
+TEST(TreeNode, CountsNodesAndShownRows) {
+    SampleTree t;
+    EXPECT_EQ(1, t.a1->GetNumberOfNodes());
+    EXPECT_EQ(7, t.root.GetNumberOfNodes());
+    EXPECT_EQ(0, t.root.ComputeNumberOfExpandedNodesShowing()) << "collapsed root";
+
+    t.a->Expand(1); // expanded, but under a collapsed root
+    EXPECT_EQ(0, t.root.ComputeNumberOfExpandedNodesShowing());
+    EXPECT_EQ(2, t.a->ComputeNumberOfExpandedNodesShowing());
+
+    t.root.Expand(1);
+    EXPECT_EQ(5, t.root.ComputeNumberOfExpandedNodesShowing()) << "a, a1, a2, b, c";
+    t.b->Expand(1);
+    EXPECT_EQ(6, t.root.ComputeNumberOfExpandedNodesShowing());
+    t.a->Expand(0); // a's children drop out, a itself still shows
+    EXPECT_EQ(4, t.root.ComputeNumberOfExpandedNodesShowing());
+}
+
+TEST(TreeNode, FindNodeAndItemDataSearchInPreOrder) {
+    SampleTree t;
+    EXPECT_EQ(&t.root, t.root.FindNode(1));
+    EXPECT_EQ(t.b1, t.root.FindNode(6));
+    EXPECT_EQ(nullptr, t.root.FindNode(8));
+    EXPECT_EQ(nullptr, t.root.FindNode(-1));
+    EXPECT_EQ(t.b1, t.root.FindNodeFromItemData(600));
+    EXPECT_EQ(nullptr, t.root.FindNodeFromItemData(1));
+
+    // Same data deep in the first subtree and shallow in a later one: pre-order
+    // finds the deep one (a breadth-first walk would find c).
+    t.a2->SetItemData(777);
+    t.c->SetItemData(777);
+    EXPECT_EQ(t.a2, t.root.FindNodeFromItemData(777));
+    t.a2->SetHandle(7);
+    EXPECT_EQ(t.a2, t.root.FindNode(7));
+}
+
+TEST(TreeNode, LastNodeOfParent) {
+    SampleTree t;
+    EXPECT_TRUE(t.root.IsLastNodeOfParent()) << "no parent";
+    EXPECT_TRUE(t.root.IsParentLastNodeOfParent());
+    EXPECT_FALSE(t.a->IsLastNodeOfParent());
+    EXPECT_TRUE(t.c->IsLastNodeOfParent());
+    EXPECT_FALSE(t.a1->IsLastNodeOfParent());
+    EXPECT_TRUE(t.a2->IsLastNodeOfParent());
+    EXPECT_FALSE(t.a2->IsParentLastNodeOfParent()) << "a is not root's last child";
+    EXPECT_TRUE(t.a->IsParentLastNodeOfParent()) << "root has no parent";
+}
+
+TEST(TreeNode, GetChildOutOfRangeThrows) {
+    SampleTree t;
+    EXPECT_THROW(t.root.GetChild(3), CInvalidArgException);
+    EXPECT_THROW(t.root.GetChild(-1), CInvalidArgException);
+    EXPECT_EQ(-1, t.root.GetNodeIndex(t.b1));
+    EXPECT_EQ(1, t.root.GetNodeIndex(t.b));
+}
+
+TEST(TreeNode, FindNoCaseChildString) {
+    CTreeNode root(CString(u"Drives"), 0, 0, 0, 1, nullptr);
+    CTreeNode* motor = AddChild(&root, u"Motor\tstopped", 2);
+    CTreeNode* motors = AddChild(&root, u"Motors", 3);
+    AddChild(motors, u"Motor", 4); // under the node that ends its subtree's search
+    CTreeNode* group = AddChild(&root, u"Pumps", 5);
+    AddChild(group, u"PUMP_1\tBOOL", 6);
+    (void)motor;
+
+    struct Row {
+        const char* name;
+        CTreeNode* node;
+        const char16_t* text;
+        bool matchParents;
+        int length;
+        int exact;
+        int expected;
+    } rows[] = {
+        {"prefix, case-blind", &root, u"motor", false, 5, 0, 2},
+        {"exact before tab", &root, u"motor", false, 5, 1, 2},
+        {"exact name differs: subtree ends", motors, u"motor", true, 5, 1, -1},
+        {"a leaf child is found when its parent is no candidate", motors, u"motor", false, 5, 1, 4},
+        {"a parent is no candidate without matchParents", &root, u"MOTORS", false, 6, 1, -1},
+        {"exact parent with matchParents", &root, u"MOTORS", true, 6, 1, 3},
+        {"parents skipped without matchParents", &root, u"Pumps", false, 5, 0, -1},
+        {"parents match with matchParents", &root, u"pumps", true, 5, 0, 5},
+        {"child of a parent", &root, u"pump_1", false, 6, 1, 6},
+        {"prefix longer than every text", &root, u"Motor\tstopped and more", false, 30, 0, -1},
+        {"short prefix of a longer key", &root, u"Mxyz", false, 1, 0, 2},
+        {"matchParents finds the root first", &root, u"d", true, 1, 0, 1},
+        {"no match", &root, u"valve", true, 5, 0, -1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(row.expected, row.node->FindNoCaseChildString(CString(row.text), row.matchParents,
+                                                                row.length, row.exact));
+    }
+}
+
+TEST(TreeNode, ExactSearchPrunesOnlyTheMismatchingSubtree) {
+    CTreeNode root(CString(u"root"), 0, 0, 0, 1, nullptr);
+    CTreeNode* motors = AddChild(&root, u"Motors", 2);
+    AddChild(motors, u"Motor", 3);     // hidden behind "Motors"
+    AddChild(&root, u"motor\tINT", 4); // a later sibling is still searched
+    EXPECT_EQ(4, root.FindNoCaseChildString(CString(u"Motor"), true, 5, 1));
+    EXPECT_EQ(3, root.FindNoCaseChildString(CString(u"Motor"), false, 5, 1))
+        << "without matchParents Motors is not a candidate, so its child is searched";
+}
+
+// ---- Visiting -------------------------------------------------------------------
+
+struct RecordingVisitor : VU_ATreeNodeVisitor {
+    std::vector<CTreeNodeArray*> arrays;
+    int nodeVisits = 0;
+    size_t stopAfter = 0; // 0: never
+    void Visit(CTreeNodeArray* array) override {
+        arrays.push_back(array);
+        if (stopAfter != 0 && arrays.size() == stopAfter)
+            SetVisitComplete(true);
+    }
+    void Visit(CTreeNode*) override { ++nodeVisits; }
+};
+
+TEST(TreeNodeVisitor, AcceptWalksPreOrderThroughTheArrayOverload) {
+    SampleTree t;
+    RecordingVisitor v;
+    t.root.Accept(&v);
+    std::vector<CTreeNodeArray*> expected{&t.root, t.a, t.a1, t.a2, t.b, t.b1, t.c};
+    EXPECT_EQ(expected, v.arrays);
+    EXPECT_EQ(0, v.nodeVisits);
+
+    CTreeNodeArray roots;
+    roots.Add(t.a);
+    roots.Add(t.c);
+    RecordingVisitor w;
+    roots.Accept(&w);
+    std::vector<CTreeNodeArray*> expectedRoots{&roots, t.a, t.a1, t.a2, t.c};
+    EXPECT_EQ(expectedRoots, w.arrays);
+}
+
+TEST(TreeNodeVisitor, CompletionStopsTheWalk) {
+    SampleTree t;
+    CTreeNodeArray empty;
+    RecordingVisitor once;
+    empty.Accept(&once);
+    EXPECT_EQ(1u, once.arrays.size());
+
+    RecordingVisitor first;
+    first.stopAfter = 1;
+    t.root.Accept(&first);
+    EXPECT_EQ(1u, first.arrays.size()) << "complete in the first call: no children seen";
+
+    RecordingVisitor third;
+    third.stopAfter = 3;
+    t.root.Accept(&third);
+    EXPECT_EQ(3u, third.arrays.size());
+
+    RecordingVisitor done;
+    done.SetVisitComplete(true);
+    t.root.Accept(&done);
+    EXPECT_TRUE(done.arrays.empty());
+}
+
+// ---- Ownership ------------------------------------------------------------------
+
+struct CountedNode : CTreeNode {
+    CountedNode(std::vector<int>* log, int id) : m_log(log), m_id(id) {}
+    ~CountedNode() override { m_log->push_back(m_id); }
+    std::vector<int>* m_log;
+    int m_id;
+};
+
+TEST(TreeNode, DestroyingANodeDestroysItsSubtreeThroughVirtualDestructors) {
+    std::vector<int> log;
+    {
+        CTreeNode root;
+        auto* first = new CountedNode(&log, 1);
+        root.Add(first);
+        first->Add(new CountedNode(&log, 2));
+        root.Add(new CountedNode(&log, 3));
+    }
+    std::vector<int> expected{1, 2, 3};
+    EXPECT_EQ(expected, log);
+}
+
+TEST(TreeNode, DeepChainIsWalkedAndDestroyedWithoutRecursion) {
+    const int depth = 200000;
+    auto root = std::make_unique<CTreeNode>(CString(u"0"), -1, -1, 0, 0, nullptr);
+    CTreeNode* tip = root.get();
+    for (int i = 1; i < depth; ++i) {
+        tip = AddChild(tip, u"x", i, static_cast<unsigned long>(i));
+        tip->GetParent()->Expand(1);
+    }
+    EXPECT_EQ(depth, root->GetNumberOfNodes());
+    EXPECT_EQ(depth - 1, root->ComputeNumberOfExpandedNodesShowing());
+    EXPECT_EQ(tip, root->FindNode(depth - 1));
+    EXPECT_EQ(-1, root->FindNoCaseChildString(CString(u"y"), true, 1, 0));
+    root.reset(); // must not overflow the stack
+}
+
+// ---- XML --------------------------------------------------------------------------
+
+std::string Row(long id, bool expanded, bool selected, const char* text, const char* parent) {
+    return "<HbxListNode><id>" + std::to_string(id) + "</id><expanded>" +
+           (expanded ? "true" : "false") + "</expanded><selected>" + (selected ? "true" : "false") +
+           "</selected><text>" + text + "</text><parent>" + parent + "</parent></HbxListNode>";
+}
+
+TEST(TreeNodeXml, WritesOneElementPerShownRowWithTheSharedCounter) {
+    SampleTree t;
+    t.root.Expand(1);
+    t.a->Expand(1);
+    t.b1->Expand(1); // a leaf stays collapsed
+    CTreeNode::ResetXmlRowCounter(2);
+    const std::string xml = Narrow(t.root.XmlGetString());
+    const std::string expected =
+        Row(0, true, false, "root", "") + Row(1, true, false, "a", "root") +
+        Row(2, false, true, "a1", "a") + Row(3, false, false, "a2", "a") +
+        Row(4, false, false, "b", "root") + Row(5, false, false, "c", "root");
+    EXPECT_EQ(expected, xml);
+    EXPECT_EQ(6, CTreeNode::GetXmlRowCounter());
+}
+
+TEST(TreeNodeXml, ArrayConcatenatesRootsAndTheCounterRunsOn) {
+    SampleTree t;
+    CTreeNode other(CString(u"x<&>\"'y"), 0, 0, 0, 9, nullptr);
+    AddChild(&other, u"\u00e9t\u00e9", 10);
+    other.Expand(1);
+    CTreeNodeArray roots;
+    roots.Add(&t.root); // collapsed: its children are not written
+    roots.Add(&other);
+    CTreeNode::ResetXmlRowCounter(-1);
+    const std::u16string xml = roots.XmlGetString();
+    const std::u16string expected =
+        u"<HbxListNode><id>0</id><expanded>false</expanded><selected>false</selected>"
+        u"<text>root</text><parent></parent></HbxListNode>"
+        u"<HbxListNode><id>1</id><expanded>true</expanded><selected>false</selected>"
+        u"<text>x&lt;&amp;&gt;&quot;&apos;y</text><parent></parent></HbxListNode>"
+        u"<HbxListNode><id>2</id><expanded>false</expanded><selected>false</selected>"
+        u"<text>\u00e9t\u00e9</text><parent>x&lt;&amp;&gt;&quot;&apos;y</parent></HbxListNode>";
+    EXPECT_EQ(expected, xml);
+    roots.RemoveAll(); // the array does not own its entries
+}
+
+} // namespace
