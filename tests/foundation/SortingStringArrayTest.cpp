@@ -1,0 +1,41 @@
+#include "foundation/SortingStringArray.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+std::string Joined(const CStringArray& a) {
+    std::string out;
+    for (INT_PTR i = 0; i < a.GetSize(); ++i) {
+        for (char16_t c : a[i].View())
+            out += static_cast<char>(c);
+        out += ' ';
+    }
+    return out;
+}
+
+int CompareNoCase(const CString* a, const CString* b) {
+    return a->CompareNoCase(*b);
+}
+
+TEST(SortingStringArray, SortsInPlaceWithTheGivenOrder) {
+    AF_CSortingStringArray a;
+    for (const char16_t* s : {u"b", u"A", u"B", u"a", u"_"})
+        a.Add(s);
+    a.Sort(&AF_CSortingStringArray::Compare);
+    EXPECT_EQ(Joined(a), "A B _ a b ");
+
+    AF_CSortingStringArray b;
+    for (const char16_t* s : {u"b", u"A", u"B", u"a"})
+        b.Add(s);
+    b.Sort(&CompareNoCase); // equal elements keep their order
+    EXPECT_EQ(Joined(b), "A a b B ");
+
+    AF_CSortingStringArray empty;
+    empty.Sort(nullptr);
+    EXPECT_EQ(empty.GetSize(), 0);
+}
+
+} // namespace
