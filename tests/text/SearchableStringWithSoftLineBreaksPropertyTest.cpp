@@ -1,0 +1,78 @@
+// Soft line breaks on generated texts: taking them out and putting them back
+// is an identity, and searches see the text as if it had never been wrapped.
+#include "text/SearchableStringWithSoftLineBreaks.h"
+#include "text/WordWrappedString.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+namespace {
+
+using Soft = VU_CSearchableStringWithSoftLineBreaks;
+
+// Words, blanks, tabs and hard breaks; never a soft break of its own.
+std::u16string RandomText(std::mt19937& rng) {
+    static const std::u16string pieces[] = {u"a",     u"of",   u"word", u"wrapping",
+                                            u"x_y-z", u" ",    u" ",    u" ",
+                                            u"\t",    u"\r\n", u"\n",   u"longerthananyline"};
+    std::u16string text;
+    for (int n = std::uniform_int_distribution<int>(0, 40)(rng); n > 0; --n)
+        text += pieces[std::uniform_int_distribution<std::size_t>(0, std::size(pieces) - 1)(rng)];
+    return text;
+}
+
+TEST(SoftBreaksProperty, RemoveAndReInsertAreAnIdentity) {
+    std::mt19937 rng(20240611);
+    for (int round = 0; round < 300; ++round) {
+        const std::u16string text = RandomText(rng);
+        for (int width : {-1, 1, 2, 3, 5, 8, 13, 40}) {
+            SCOPED_TRACE(testing::Message() << "round " << round << " width " << width);
+            Soft s(CString(text), static_cast<int>(text.size()), static_cast<int>(text.size()));
+            const int breaks = s.WordWrapText(width);
+            const std::u16string wrapped = s.Str();
+            ASSERT_EQ(wrapped,
+                      VU_CWordWrappedString(CString(text), width).GetFullString(true, false).Str());
+            int start, end;
+            s.GetSelection(start, end);
+            EXPECT_EQ(start, static_cast<int>(wrapped.size())) << "the caret stays at the end";
+
+            EXPECT_EQ(s.RemoveSoftLineBreaks(), breaks);
+            EXPECT_EQ(s.Str(), text);
+            EXPECT_EQ(s.ReInsertSoftLineBreaks(), breaks);
+            EXPECT_EQ(s.Str(), wrapped);
+            EXPECT_EQ(s.ReplaceSoftLineBreaksWith(u"\u00b6"), breaks);
+            EXPECT_EQ(s.ReInsertSoftLineBreaks(), breaks);
+            ASSERT_EQ(s.Str(), wrapped);
+        }
+    }
+}
+
+TEST(SoftBreaksProperty, SearchesFindWhatTheUnbrokenTextHolds) {
+    std::mt19937 rng(7);
+    for (int round = 0; round < 300; ++round) {
+        const std::u16string text = RandomText(rng);
+        if (text.empty())
+            continue;
+        Soft s{CString(text)};
+        s.WordWrapText(std::uniform_int_distribution<int>(1, 12)(rng));
+        const std::u16string wrapped = s.Str();
+        for (int probe = 0; probe < 5; ++probe) {
+            const int at = std::uniform_int_distribution<int>(0, int(text.size()) - 1)(rng);
+            const int length = std::uniform_int_distribution<int>(1, 6)(rng);
+            const std::u16string needle = text.substr(at, length);
+            std::u16string upper = needle;
+            for (char16_t& c : upper)
+                c = (c >= u'a' && c <= u'z') ? char16_t(c - 32) : c;
+            SCOPED_TRACE(testing::Message() << "round " << round << " at " << at);
+            EXPECT_EQ(s.Find(needle.c_str()), int(text.find(needle)));
+            EXPECT_EQ(s.FindNoCase(upper.c_str()), int(text.find(needle)));
+            EXPECT_EQ(s.ReverseFind(needle.c_str()), int(text.rfind(needle)));
+            EXPECT_EQ(s.Find(needle[0], at), int(text.find(needle[0], at)));
+            ASSERT_EQ(s.Str(), wrapped);
+        }
+    }
+}
+
+} // namespace
