@@ -1,0 +1,198 @@
+// Random sequences of searchable-string operations: every search form, the
+// replace operations, edits at random (also out-of-range) positions, field
+// operations and regular expressions under a step budget. Besides "no crash,
+// no leak, no hang" it checks that search results point at a real occurrence
+// and that the one-pass replace-all equals one replacement at a time.
+#include "text/SearchableString.h"
+
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+// Small alphabet so that searches hit: letters in both cases, delimiters,
+// regular-expression specials and a few characters beyond ASCII.
+constexpr char16_t kAlphabet[] = u"aAbB zZ,.-_()*+?|[]^$\\&\u00E4\u00C4\u212Ak\u03C3\u03A3\u0000";
+constexpr int kMaxText = 2000;
+constexpr unsigned long long kStepLimit = 200000;
+
+std::u16string TakeText(FuzzedDataProvider& in, int maxLength) {
+    const int length = in.ConsumeIntegralInRange<int>(0, maxLength);
+    std::u16string s;
+    for (int i = 0; i < length && in.remaining_bytes() > 0; ++i) {
+        const char16_t c = kAlphabet[in.ConsumeIntegralInRange<int>(0, std::size(kAlphabet) - 2)];
+        if (c) // the texts are NUL-terminated
+            s.push_back(c);
+    }
+    return s;
+}
+
+// Positions around and beyond the text, negative ones included.
+int TakeIndex(FuzzedDataProvider& in, int length) {
+    return in.ConsumeIntegralInRange<int>(-3, length + 3);
+}
+
+class FuzzString : public VU_CSearchableString {
+public:
+    using VU_CSearchableString::VU_CSearchableString;
+    void LimitSteps() { m_regExp.SetStepLimit(kStepLimit); }
+    bool RanOutOfSteps() const { return m_regExp.IsStepLimitExceeded(); }
+};
+
+// Forces replace-all through ReplaceAt, one replacement at a time.
+class OneAtATime : public FuzzString {
+public:
+    using FuzzString::FuzzString;
+    VU_CSearchableString& ReplaceAt(int index, int count, const char16_t* text) override {
+        return VU_CSearchableString::ReplaceAt(index, count, text);
+    }
+};
+
+void Check(bool ok) {
+    if (!ok)
+        std::abort();
+}
+
+bool MatchesAt(const CString& s, int at, const std::u16string& find) {
+    return at >= 0 && at + static_cast<int>(find.size()) <= s.GetLength() &&
+           s.View().substr(at, find.size()) == find;
+}
+
+void CompareReplaceAll(const CString& text, int kind, const std::u16string& find,
+                       const std::u16string& replacement) {
+    FuzzString fast(text);
+    OneAtATime slow(text);
+    fast.LimitSteps();
+    slow.LimitSteps();
+    int a = 0, b = 0;
+    if (kind == 0) {
+        a = fast.FindReplace(find.c_str(), replacement.c_str(), TRUE, FALSE);
+        b = slow.FindReplace(find.c_str(), replacement.c_str(), TRUE, FALSE);
+    } else if (kind == 1) {
+        a = fast.FindReplaceNoCase(find.c_str(), replacement.c_str(), TRUE, FALSE);
+        b = slow.FindReplaceNoCase(find.c_str(), replacement.c_str(), TRUE, FALSE);
+    } else {
+        a = fast.FindReplaceRegularExp(find.c_str(), replacement.c_str(), TRUE);
+        b = slow.FindReplaceRegularExp(find.c_str(), replacement.c_str(), TRUE);
+        // A run ends at its first search that runs out of steps; the two runs
+        // search different strings, so compare only runs that finished.
+        if (fast.RanOutOfSteps() || slow.RanOutOfSteps())
+            return;
+    }
+    Check(a == b);
+    Check(fast.View() == slow.View());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    FuzzedDataProvider in(data, size);
+    FuzzString s(TakeText(in, 64).c_str());
+    s.LimitSteps();
+    for (int op = 0; op < 64 && in.remaining_bytes() > 0; ++op) {
+        const int n = s.GetLength();
+        const std::u16string t = TakeText(in, 4);
+        const std::u16string u = TakeText(in, 4);
+        const char16_t ch = t.empty() ? u'a' : t[0];
+        const BOOL flag = in.ConsumeBool();
+        const int i = TakeIndex(in, n);
+        const int j = TakeIndex(in, n);
+        int r = -1;
+        switch (in.ConsumeIntegralInRange<int>(0, 23)) {
+        case 0:
+            r = s.Find(t.c_str(), i, flag);
+            Check(r == -1 || MatchesAt(s, r, t));
+            break;
+        case 1:
+            r = s.Find(ch, i, flag);
+            Check(r == -1 || s[r] == ch);
+            break;
+        case 2:
+            r = s.FindNoCase(t.c_str(), i, flag);
+            Check(r == -1 || (r >= 0 && r + static_cast<int>(t.size()) <= n));
+            break;
+        case 3:
+            r = s.FindNoCase(ch, i, flag);
+            Check(r >= -1 && r < n);
+            break;
+        case 4:
+            r = s.FindN(ch, i, j, flag);
+            Check(r == -1 || s[r] == ch);
+            break;
+        case 5:
+            r = s.ReverseFind(t.c_str(), i, flag);
+            Check(r == -1 || MatchesAt(s, r, t));
+            break;
+        case 6:
+            r = s.ReverseFind(ch);
+            Check(r == -1 || s[r] == ch);
+            break;
+        case 7:
+            r = s.ReverseFindNoCase(t.c_str(), i, flag);
+            Check(r >= -1 && r < n);
+            break;
+        case 8:
+            r = s.ReverseFindNoCase(ch, i, flag);
+            Check(r >= -1 && r < n);
+            break;
+        case 9:
+            r = s.FindRegularExp(t.c_str(), i);
+            Check(r >= -1 && r <= n);
+            break;
+        case 10:
+            s.FindReplaceRegularExp(t.c_str(), u.c_str(), flag);
+            break;
+        case 11:
+            s.FindReplace(t.c_str(), u.c_str(), flag, FALSE);
+            break;
+        case 12:
+            s.FindReplaceNoCase(t.c_str(), u.c_str(), flag, FALSE);
+            break;
+        case 13:
+            s.InsertAt(i, t.c_str());
+            break;
+        case 14:
+            s.InsertAt(i, ch);
+            break;
+        case 15:
+            s.DeleteAt(i, j);
+            break;
+        case 16:
+            s.ReplaceAt(i, j, t.c_str());
+            break;
+        case 17:
+            Check(s.GetFieldCount(t.c_str()) >= 1);
+            Check(s.GetFieldCount(ch) >= 1);
+            break;
+        case 18:
+            Check(s.GetField(t.c_str(), i).GetLength() <= n);
+            Check(s.GetField(ch, j).GetLength() <= n);
+            break;
+        case 19:
+            Check(s.GetDelimitedField(t.c_str(), u.c_str(), i).GetLength() <= n);
+            break;
+        case 20:
+            s.SetTokenDelimiters(t.c_str());
+            break;
+        case 21:
+            CompareReplaceAll(s, in.ConsumeIntegralInRange<int>(0, 2), t, u);
+            break;
+        case 22: {
+            FuzzString copy(s);
+            copy.LimitSteps();
+            copy.FindRegularExp(nullptr, 0); // the copied pattern, if any
+            s = copy;
+            break;
+        }
+        case 23:
+            s = CString(t.c_str());
+            break;
+        }
+        if (s.GetLength() > kMaxText)
+            s.DeleteAt(kMaxText, -1);
+    }
+    return 0;
+}
