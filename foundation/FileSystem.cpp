@@ -20,14 +20,6 @@
 
 namespace vu {
 
-namespace {
-
-bool IsUncStart(std::u16string_view path) {
-    return path.size() >= 2 && path[0] == u'\\' && path[1] == u'\\';
-}
-
-} // namespace
-
 #ifdef _WIN32
 
 // ---- Windows: the C runtime's wide calls ------------------------------------
@@ -95,6 +87,10 @@ bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
 namespace {
 
 constexpr char16_t kReplacement = 0xFFFD;
+
+bool IsUncStart(std::u16string_view path) {
+    return path.size() >= 2 && path[0] == u'\\' && path[1] == u'\\';
+}
 
 void AppendUtf8(std::string& out, char32_t c) {
     if (c < 0x80) {
