@@ -1,0 +1,1198 @@
+#include "text/RegExpression.h"
+
+#include "text/RegExpScan.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <new>
+
+namespace {
+
+// Characters with a meaning of their own; a literal run stops at any of them.
+constexpr char16_t kMeta[] = u"^$.[()|?+*\\";
+
+bool IsMeta(char16_t c) {
+    for (const char16_t* m = kMeta; *m; ++m)
+        if (*m == c)
+            return true;
+    return false;
+}
+
+bool IsRepeat(char16_t c) {
+    return c == u'*' || c == u'+' || c == u'?';
+}
+
+size_t OperandLength(const char16_t* operand) {
+    size_t n = 0;
+    while (operand[n])
+        ++n;
+    return n;
+}
+
+// Programs larger than this are refused as if memory had run out (128 MB).
+constexpr uint64_t kMaxProgramUnits = uint64_t(1) << 26;
+// The start-set analysis is skipped for programs above this size.
+constexpr uint64_t kMaxAnalysedUnits = uint64_t(1) << 20;
+
+} // namespace
+
+// ---- Construction ------------------------------------------------------
+
+VU_CRegExpression::VU_CRegExpression() = default;
+
+VU_CRegExpression::~VU_CRegExpression() {
+    Release();
+}
+
+VU_CRegExpression::VU_CRegExpression(const VU_CRegExpression& other) {
+    CopyFrom(other);
+}
+
+VU_CRegExpression& VU_CRegExpression::operator=(const VU_CRegExpression& other) {
+    if (this != &other) {
+        Release();
+        CopyFrom(other);
+    }
+    return *this;
+}
+
+VU_CRegExpression::VU_CRegExpression(VU_CRegExpression&& other) noexcept {
+    *this = std::move(other);
+}
+
+VU_CRegExpression& VU_CRegExpression::operator=(VU_CRegExpression&& other) noexcept {
+    if (this == &other)
+        return *this;
+    Release();
+    // The hint pointers point into the program, which moves with them.
+    m_emitting = other.m_emitting;
+    m_compiled = other.m_compiled;
+    m_foundText = std::move(other.m_foundText);
+    m_hasFound = other.m_hasFound;
+    std::copy(other.m_groupStart, other.m_groupStart + kGroupCount, m_groupStart);
+    std::copy(other.m_groupEnd, other.m_groupEnd + kGroupCount, m_groupEnd);
+    m_firstChar = other.m_firstChar;
+    m_anchored = other.m_anchored;
+    m_required = other.m_required;
+    m_requiredLength = other.m_requiredLength;
+    m_program = other.m_program;
+    m_programSize = other.m_programSize;
+    m_groupCount = other.m_groupCount;
+    m_input = other.m_input;
+    m_stringStart = other.m_stringStart;
+    m_firstLiteral = other.m_firstLiteral;
+    m_firstLiteralLength = other.m_firstLiteralLength;
+    m_leadingRepeat = other.m_leadingRepeat;
+    m_hasStartSet = other.m_hasStartSet;
+    m_startSet = std::move(other.m_startSet);
+    m_sets = std::move(other.m_sets);
+    m_stepLimit = other.m_stepLimit;
+    m_stepLimitExceeded = other.m_stepLimitExceeded;
+    other.m_program = nullptr;
+    other.m_required = other.m_firstLiteral = nullptr;
+    other.m_hasFound = false;
+    other.m_compiled = 0;
+    return *this;
+}
+
+void VU_CRegExpression::Release() {
+    delete[] m_program;
+    m_program = nullptr;
+    m_required = m_firstLiteral = nullptr;
+    m_hasFound = false;
+}
+
+void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
+    m_emitting = other.m_emitting;
+    m_compiled = other.m_compiled;
+    m_foundText = other.m_foundText;
+    m_hasFound = other.m_hasFound;
+    std::copy(other.m_groupStart, other.m_groupStart + kGroupCount, m_groupStart);
+    std::copy(other.m_groupEnd, other.m_groupEnd + kGroupCount, m_groupEnd);
+    m_firstChar = other.m_firstChar;
+    m_anchored = other.m_anchored;
+    m_requiredLength = other.m_requiredLength;
+    m_programSize = other.m_programSize;
+    m_groupCount = other.m_groupCount;
+    m_input = other.m_input;
+    m_stringStart = other.m_stringStart;
+    m_firstLiteralLength = other.m_firstLiteralLength;
+    m_leadingRepeat = other.m_leadingRepeat;
+    m_hasStartSet = other.m_hasStartSet;
+    m_startSet = other.m_startSet;
+    m_sets = other.m_sets;
+    m_stepLimit = other.m_stepLimit;
+    m_stepLimitExceeded = other.m_stepLimitExceeded;
+    m_program = nullptr;
+    m_required = m_firstLiteral = nullptr;
+    if (other.m_program) {
+        // A copy owns its own program; the hints are rebased onto it.
+        m_program = new char16_t[other.m_programSize];
+        std::memcpy(m_program, other.m_program, other.m_programSize * sizeof(char16_t));
+        if (other.m_required)
+            m_required = m_program + (other.m_required - other.m_program);
+        if (other.m_firstLiteral)
+            m_firstLiteral = m_program + (other.m_firstLiteral - other.m_program);
+    }
+}
+
+// ---- Compilation -------------------------------------------------------
+
+VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
+    if (!pattern)
+        return nullptr;
+    m_compiled = 1;
+    const uint64_t previousSize = m_programSize;
+
+    // Sizing pass: nothing is written, the units are only counted.
+    m_groupCount = 1;
+    m_emitting = 0;
+    m_programSize = 0;
+    m_emit = m_dummy;
+    m_parse = pattern;
+    int flags = 0;
+    if (!reg(false, flags) || m_programSize > kMaxProgramUnits) {
+        m_programSize = previousSize;
+        return nullptr;
+    }
+
+    // Emitting pass into a buffer of the exact size. The old program is
+    // kept until the new one is complete.
+    char16_t* program = new (std::nothrow) char16_t[m_programSize]();
+    if (!program) {
+        m_programSize = previousSize;
+        return nullptr;
+    }
+    char16_t* old = m_program;
+    m_program = program;
+    m_groupCount = 1;
+    m_emitting = 1;
+    m_emit = program;
+    m_parse = pattern;
+    if (!reg(false, flags) || uint64_t(m_emit - program) != m_programSize) {
+        m_program = old; // cannot happen: both passes parse the same text
+        delete[] program;
+        m_programSize = previousSize;
+        return nullptr;
+    }
+    delete[] old;
+    m_emit = nullptr;
+    m_parse = nullptr;
+
+    ComputeHints(flags);
+    BuildSetInfo();
+    ComputeStartSet();
+    return this;
+}
+
+// reg: a whole expression (paren false) or a group body; alternatives are
+// chained OpAlternative nodes whose contents all end in the closing node.
+char16_t* VU_CRegExpression::reg(bool paren, int& flags) {
+    flags = HasWidth; // until a branch proves otherwise
+    int groupNumber = 0;
+    char16_t* ret = nullptr;
+    if (paren) {
+        if (m_groupCount >= kGroupCount)
+            return nullptr;
+        groupNumber = m_groupCount++;
+        ret = regnode(char16_t(OpGroupOpen + groupNumber));
+    }
+
+    int branchFlags = 0;
+    char16_t* branch = regbranch(branchFlags);
+    if (!branch)
+        return nullptr;
+    if (ret)
+        regtail(ret, branch);
+    else
+        ret = branch;
+    if (!(branchFlags & HasWidth))
+        flags &= ~HasWidth;
+    flags |= branchFlags & StartsWithRepeat;
+    while (*m_parse == u'|') {
+        ++m_parse;
+        branch = regbranch(branchFlags);
+        if (!branch)
+            return nullptr;
+        regtail(ret, branch);
+        if (!(branchFlags & HasWidth))
+            flags &= ~HasWidth;
+        flags |= branchFlags & StartsWithRepeat;
+    }
+
+    char16_t* ender = regnode(paren ? char16_t(OpGroupClose + groupNumber) : char16_t(OpEnd));
+    regtail(ret, ender);
+    for (char16_t* p = ret; p; p = regnext(p))
+        regoptail(p, ender);
+
+    if (paren) {
+        if (*m_parse != u')')
+            return nullptr;
+        ++m_parse;
+    } else if (*m_parse != 0) {
+        return nullptr; // an unbalanced ')'
+    }
+    return ret;
+}
+
+// regbranch: one alternative, a sequence of pieces.
+char16_t* VU_CRegExpression::regbranch(int& flags) {
+    flags = 0;
+    char16_t* ret = regnode(OpAlternative);
+    char16_t* chain = nullptr;
+    while (*m_parse && *m_parse != u'|' && *m_parse != u')') {
+        int pieceFlags = 0;
+        char16_t* latest = regpiece(pieceFlags);
+        if (!latest)
+            return nullptr;
+        flags |= pieceFlags & HasWidth;
+        if (!chain)
+            flags |= pieceFlags & StartsWithRepeat;
+        else
+            regtail(chain, latest);
+        chain = latest;
+    }
+    if (!chain)
+        regnode(OpEmpty);
+    return ret;
+}
+
+// regpiece: an atom with an optional *, + or ?.
+char16_t* VU_CRegExpression::regpiece(int& flags) {
+    int atomFlags = 0;
+    char16_t* ret = regatom(atomFlags);
+    if (!ret)
+        return nullptr;
+    const char16_t op = *m_parse;
+    if (!IsRepeat(op)) {
+        flags = atomFlags;
+        return ret;
+    }
+    if (!(atomFlags & HasWidth) && op != u'?')
+        return nullptr; // the repeated item could match empty
+    flags = op == u'*' ? StartsWithRepeat : op == u'+' ? (HasWidth | StartsWithRepeat) : 0;
+
+    if (op == u'*' && (atomFlags & Simple)) {
+        reginsert(OpStar, ret);
+    } else if (op == u'*') {
+        // x* as (x<loop>|<empty>)
+        reginsert(OpAlternative, ret);
+        regoptail(ret, regnode(OpLoopBack));
+        regoptail(ret, ret);
+        regtail(ret, regnode(OpAlternative));
+        regtail(ret, regnode(OpEmpty));
+    } else if (op == u'+' && (atomFlags & Simple)) {
+        reginsert(OpPlus, ret);
+    } else if (op == u'+') {
+        // x+ as x(<loop>|<empty>)
+        char16_t* next = regnode(OpAlternative);
+        regtail(ret, next);
+        regtail(regnode(OpLoopBack), ret);
+        regtail(next, regnode(OpAlternative));
+        regtail(ret, regnode(OpEmpty));
+    } else {
+        // x? as (x|<empty>)
+        reginsert(OpAlternative, ret);
+        regtail(ret, regnode(OpAlternative));
+        char16_t* next = regnode(OpEmpty);
+        regtail(ret, next);
+        regoptail(ret, next);
+    }
+    ++m_parse;
+    if (IsRepeat(*m_parse))
+        return nullptr; // nested repetition
+    return ret;
+}
+
+// regatom: the smallest unit of a pattern.
+char16_t* VU_CRegExpression::regatom(int& flags) {
+    flags = 0;
+    char16_t* ret = nullptr;
+    switch (*m_parse++) {
+    case u'^':
+        ret = regnode(OpAtStart);
+        break;
+    case u'$':
+        ret = regnode(OpAtEnd);
+        break;
+    case u'.':
+        ret = regnode(OpAnyChar);
+        flags |= HasWidth | Simple;
+        break;
+    case u'[':
+        ret = regset();
+        flags |= HasWidth | Simple;
+        break;
+    case u'(': {
+        int groupFlags = 0;
+        ret = reg(true, groupFlags);
+        flags |= groupFlags & (HasWidth | StartsWithRepeat);
+        break;
+    }
+    case 0:
+    case u'|':
+    case u')':
+    case u'?':
+    case u'+':
+    case u'*':
+        return nullptr; // nothing to repeat, or nothing at all
+    case u'\\':
+        if (*m_parse == 0)
+            return nullptr;
+        ret = regnode(OpLiteral);
+        regc(*m_parse++);
+        regc(0);
+        flags |= HasWidth | Simple;
+        break;
+    default: {
+        --m_parse;
+        size_t length = 0;
+        while (m_parse[length] && !IsMeta(m_parse[length]))
+            ++length;
+        // A repeat operator applies to the last character of the run only.
+        if (length > 1 && IsRepeat(m_parse[length]))
+            --length;
+        flags |= HasWidth;
+        if (length == 1)
+            flags |= Simple;
+        ret = regnode(OpLiteral);
+        while (length-- > 0)
+            regc(*m_parse++);
+        regc(0);
+        break;
+    }
+    }
+    return ret;
+}
+
+// regset: the members of [...] (m_parse is past the '['), expanded one unit
+// each.
+char16_t* VU_CRegExpression::regset() {
+    char16_t* ret;
+    if (*m_parse == u'^') {
+        ret = regnode(OpNotInSet);
+        ++m_parse;
+    } else {
+        ret = regnode(OpInSet);
+    }
+    if (*m_parse == u']' || *m_parse == u'-')
+        regc(*m_parse++);
+    while (*m_parse && *m_parse != u']') {
+        if (*m_parse != u'-') {
+            regc(*m_parse++);
+            continue;
+        }
+        ++m_parse;
+        if (*m_parse == u']' || *m_parse == 0) {
+            regc(u'-');
+            continue;
+        }
+        // The lower end, the unit before '-', is already in the list.
+        const uint32_t lower = uint32_t(m_parse[-2]) + 1;
+        const uint32_t upper = *m_parse;
+        if (lower > upper + 1)
+            return nullptr;
+        if (!m_emitting)
+            m_programSize += upper + 1 - lower;
+        else
+            for (uint32_t c = lower; c <= upper; ++c)
+                regc(char16_t(c));
+        ++m_parse;
+    }
+    regc(0);
+    if (*m_parse != u']')
+        return nullptr;
+    ++m_parse;
+    return ret;
+}
+
+char16_t* VU_CRegExpression::regnode(char16_t op) {
+    if (!m_emitting) {
+        m_programSize += kNodeUnits;
+        return m_dummy;
+    }
+    char16_t* p = m_emit;
+    p[0] = op;
+    p[1] = p[2] = 0;
+    m_emit += kNodeUnits;
+    return p;
+}
+
+void VU_CRegExpression::regc(char16_t ch) {
+    if (!m_emitting) {
+        ++m_programSize;
+        return;
+    }
+    *m_emit++ = ch;
+}
+
+void VU_CRegExpression::reginsert(char16_t op, char16_t* operand) {
+    if (!m_emitting) {
+        m_programSize += kNodeUnits;
+        return;
+    }
+    std::memmove(operand + kNodeUnits, operand, size_t(m_emit - operand) * sizeof(char16_t));
+    m_emit += kNodeUnits;
+    operand[0] = op;
+    operand[1] = operand[2] = 0;
+}
+
+void VU_CRegExpression::regtail(char16_t* p, const char16_t* target) {
+    if (!m_emitting)
+        return;
+    char16_t* scan = p;
+    for (char16_t* next; (next = regnext(scan)) != nullptr;)
+        scan = next;
+    const uint32_t offset =
+        OP(scan) == OpLoopBack ? uint32_t(scan - target) : uint32_t(target - scan);
+    scan[1] = char16_t(offset & 0xFFFF);
+    scan[2] = char16_t(offset >> 16);
+}
+
+void VU_CRegExpression::regoptail(char16_t* p, const char16_t* target) {
+    if (!m_emitting || !p || OP(p) != OpAlternative)
+        return;
+    regtail(OPERAND(p), target);
+}
+
+const char16_t* VU_CRegExpression::regnext(const char16_t* p) {
+    const uint32_t link = ReadLink(p);
+    if (link == 0)
+        return nullptr;
+    return OP(p) == OpLoopBack ? p - link : p + link;
+}
+
+char16_t* VU_CRegExpression::regnext(char16_t* p) {
+    return const_cast<char16_t*>(regnext(static_cast<const char16_t*>(p)));
+}
+
+// ---- Compile-time analysis ---------------------------------------------
+
+void VU_CRegExpression::ComputeHints(int flags) {
+    m_firstChar = 0;
+    m_anchored = 0;
+    m_required = nullptr;
+    m_requiredLength = 0;
+    m_firstLiteral = nullptr;
+    m_firstLiteralLength = 0;
+    m_leadingRepeat = false;
+
+    const char16_t* scan = m_program; // the first top-level alternative
+    const char16_t* next = regnext(scan);
+    if (!next || OP(next) != OpEnd)
+        return; // several top-level alternatives
+    scan = OPERAND(scan);
+    if (OP(scan) == OpLiteral) {
+        m_firstChar = *OPERAND(scan);
+        m_firstLiteral = OPERAND(scan);
+        m_firstLiteralLength = uint32_t(OperandLength(m_firstLiteral));
+    } else if (OP(scan) == OpAtStart) {
+        m_anchored = 1;
+    }
+    m_leadingRepeat = OP(scan) == OpStar || OP(scan) == OpPlus;
+
+    if (flags & StartsWithRepeat) {
+        // The longest literal of the top-level chain; a later one wins a tie.
+        const char16_t* longest = nullptr;
+        size_t length = 0;
+        for (; scan; scan = regnext(scan)) {
+            if (OP(scan) != OpLiteral)
+                continue;
+            const size_t n = OperandLength(OPERAND(scan));
+            if (n >= length) {
+                longest = OPERAND(scan);
+                length = n;
+            }
+        }
+        m_required = longest;
+        m_requiredLength = uint32_t(length);
+    }
+}
+
+namespace {
+
+// Sorted, merged inclusive ranges of the given units.
+void MakeRanges(std::vector<char16_t> units, std::vector<char16_t>& lo, std::vector<char16_t>& hi) {
+    lo.clear();
+    hi.clear();
+    if (!std::is_sorted(units.begin(), units.end()))
+        std::sort(units.begin(), units.end());
+    for (char16_t c : units) {
+        if (!hi.empty() && c <= uint32_t(hi.back()) + 1) {
+            hi.back() = std::max(hi.back(), c);
+            continue;
+        }
+        lo.push_back(c);
+        hi.push_back(c);
+    }
+}
+
+} // namespace
+
+bool VU_CRegExpression::CharRanges::Contains(char16_t c) const {
+    if (c < 256)
+        return (ascii[c >> 6] >> (c & 63)) & 1;
+    auto it = std::upper_bound(lo.begin(), lo.end(), c);
+    if (it == lo.begin())
+        return false;
+    return c <= hi[size_t(it - lo.begin()) - 1];
+}
+
+// Records, for every set node, its members as ranges with a Latin-1 bitmap,
+// so that a membership test does not walk the operand.
+void VU_CRegExpression::BuildSetInfo() {
+    m_sets.clear();
+    for (uint64_t at = 0; at < m_programSize;) {
+        const char16_t op = m_program[at];
+        const char16_t* operand = m_program + at + kNodeUnits;
+        at += kNodeUnits;
+        if (op != OpInSet && op != OpNotInSet && op != OpLiteral)
+            continue;
+        const size_t n = OperandLength(operand);
+        at += n + 1;
+        if (op == OpLiteral)
+            continue;
+        SetInfo info;
+        info.node = uint32_t(operand - kNodeUnits - m_program);
+        MakeRanges(std::vector<char16_t>(operand, operand + n), info.members.lo, info.members.hi);
+        for (size_t i = 0; i < n; ++i)
+            if (operand[i] < 256)
+                info.members.ascii[operand[i] >> 6] |= uint64_t(1) << (operand[i] & 63);
+        m_sets.push_back(std::move(info));
+    }
+}
+
+const VU_CRegExpression::SetInfo* VU_CRegExpression::FindSetInfo(const char16_t* node) const {
+    const uint32_t offset = uint32_t(node - m_program);
+    auto it = std::lower_bound(m_sets.begin(), m_sets.end(), offset,
+                               [](const SetInfo& s, uint32_t o) { return s.node < o; });
+    return it != m_sets.end() && it->node == offset ? &*it : nullptr;
+}
+
+bool VU_CRegExpression::InSet(const char16_t* node, char16_t c) const {
+    const SetInfo* info = FindSetInfo(node);
+    return info && info->members.Contains(c);
+}
+
+// Collects into `units` every character a match can begin with at `node`.
+// Returns false when that cannot be bounded (any character, an empty match).
+bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<uint64_t>& units,
+                                          std::vector<uint8_t>& visited, int depth) const {
+    if (depth > 64)
+        return false;
+    auto addUnit = [&units](char16_t c) { units[c >> 6] |= uint64_t(1) << (c & 63); };
+    auto addRepeated = [&](const char16_t* item) {
+        if (OP(item) == OpLiteral) {
+            addUnit(*OPERAND(item));
+            return true;
+        }
+        if (OP(item) != OpInSet)
+            return false;
+        for (const char16_t* m = OPERAND(item); *m; ++m)
+            addUnit(*m);
+        return true;
+    };
+    for (;;) {
+        if (!node)
+            return true; // a dead end matches nothing
+        uint8_t& seen = visited[size_t(node - m_program)];
+        if (seen)
+            return true; // already accounted for
+        seen = 1;
+        const char16_t op = OP(node);
+        switch (op) {
+        case OpEnd:
+        case OpAtEnd:
+        case OpAnyChar:
+        case OpNotInSet:
+            return false;
+        case OpInSet:
+        case OpLiteral:
+            return addRepeated(node);
+        case OpStar:
+            if (!addRepeated(OPERAND(node)))
+                return false;
+            node = regnext(node);
+            continue;
+        case OpPlus:
+            return addRepeated(OPERAND(node));
+        case OpAlternative: {
+            const char16_t* next = regnext(node);
+            if (!next || OP(next) != OpAlternative) {
+                node = OPERAND(node);
+                continue;
+            }
+            for (const char16_t* alt = node; alt && OP(alt) == OpAlternative; alt = regnext(alt)) {
+                if (alt != node)
+                    visited[size_t(alt - m_program)] = 1;
+                if (!CollectStartChars(OPERAND(alt), units, visited, depth + 1))
+                    return false;
+            }
+            return true;
+        }
+        default:
+            if ((op > OpGroupOpen && op < OpGroupOpen + kGroupCount) ||
+                (op > OpGroupClose && op < OpGroupClose + kGroupCount) || op == OpAtStart ||
+                op == OpEmpty || op == OpLoopBack) {
+                node = regnext(node);
+                continue;
+            }
+            return true; // never matches
+        }
+    }
+}
+
+void VU_CRegExpression::ComputeStartSet() {
+    m_hasStartSet = false;
+    m_startSet = CharRanges();
+    if (m_anchored || m_firstChar || m_programSize > kMaxAnalysedUnits)
+        return; // those searches have better hints
+    std::vector<uint64_t> bits(65536 / 64, 0);
+    std::vector<uint8_t> visited(m_programSize, 0);
+    if (!CollectStartChars(m_program, bits, visited, 0))
+        return;
+    std::vector<char16_t> lo, hi;
+    for (uint32_t c = 1; c < 65536; ++c) {
+        if (!((bits[c >> 6] >> (c & 63)) & 1)) {
+            if (!bits[c >> 6])
+                c |= 63; // skip an empty word
+            continue;
+        }
+        if (!hi.empty() && hi.back() + 1u == c)
+            hi.back() = char16_t(c);
+        else {
+            lo.push_back(char16_t(c));
+            hi.push_back(char16_t(c));
+        }
+    }
+    if (lo.size() > size_t(VU_CRegExpScan::kMaxRanges))
+        return;
+    m_startSet.lo = std::move(lo);
+    m_startSet.hi = std::move(hi);
+    m_hasStartSet = true;
+}
+
+// ---- Searching ---------------------------------------------------------
+
+int VU_CRegExpression::RegFind(const char16_t* string) {
+    DiscardFoundText();
+    m_stepLimitExceeded = false;
+    if (!string || !m_compiled)
+        return -1;
+    const char16_t* requiredAt = nullptr;
+    if (m_required) {
+        requiredAt = VU_CRegExpScan::FindLiteral(string, m_required, m_requiredLength);
+        if (!requiredAt)
+            return -1;
+    }
+    m_stringStart = string;
+    m_stepsLeft = m_stepLimit ? m_stepLimit : ULLONG_MAX;
+
+    const char16_t* at = string;
+    bool matched = false;
+    try {
+        if (!m_program) {
+            ClearGroups(); // a failed first compile: every attempt fails
+        } else if (m_anchored) {
+            matched = regtry(string);
+        } else if (m_firstChar) {
+            // Every match starts with the leading literal: after the first
+            // position only its occurrences can match.
+            for (;;) {
+                if (regtry(at)) {
+                    matched = true;
+                    break;
+                }
+                if (m_stepLimitExceeded || !*at)
+                    break;
+                at = VU_CRegExpScan::FindLiteral(at + 1, m_firstLiteral, m_firstLiteralLength);
+                if (!at)
+                    break;
+            }
+        } else {
+            // Every position up to the terminating NUL, skipping those that
+            // cannot start a match; a failed attempt leaves no group set.
+            ClearGroups();
+            const char16_t* repeated = m_leadingRepeat ? OPERAND(OPERAND(m_program)) : nullptr;
+            for (;;) {
+                if (m_hasStartSet) {
+                    at = VU_CRegExpScan::FindInRanges(
+                        at, m_startSet.lo.data(), m_startSet.hi.data(), int(m_startSet.lo.size()));
+                    if (!at)
+                        break;
+                }
+                if (requiredAt && at > requiredAt) {
+                    // A match from here must contain the literal further on.
+                    requiredAt = VU_CRegExpScan::FindLiteral(at, m_required, m_requiredLength);
+                    if (!requiredAt)
+                        break;
+                }
+                if (regtry(at)) {
+                    matched = true;
+                    break;
+                }
+                if (m_stepLimitExceeded || !*at)
+                    break;
+                if (repeated) {
+                    // The attempt here already tried every end of the leading
+                    // run, so attempts inside the run would fail the same way.
+                    const size_t run = regrepeat(repeated, at);
+                    if (!at[run])
+                        break;
+                    at += run + 1;
+                } else {
+                    ++at;
+                }
+            }
+        }
+    } catch (const std::bad_alloc&) {
+        matched = false;
+        ClearGroups();
+    }
+    if (!matched)
+        return -1;
+    return FinishMatch(at);
+}
+
+int VU_CRegExpression::FinishMatch(const char16_t* position) {
+    const ptrdiff_t index = position - m_stringStart;
+    if (index > INT_MAX) {
+        ClearGroups(); // not representable in the result
+        return -1;
+    }
+    try {
+        m_foundText.assign(m_groupStart[0], m_groupEnd[0]);
+        m_foundText.push_back(0);
+    } catch (const std::bad_alloc&) {
+        ClearGroups();
+        return -1;
+    }
+    m_hasFound = true;
+    return int(index);
+}
+
+void VU_CRegExpression::ClearGroups() {
+    std::fill(m_groupStart, m_groupStart + kGroupCount, nullptr);
+    std::fill(m_groupEnd, m_groupEnd + kGroupCount, nullptr);
+}
+
+bool VU_CRegExpression::regtry(const char16_t* position) {
+    const unsigned long long stepsBefore = m_stepsLeft;
+    m_input = position;
+    ClearGroups();
+    MatchResult result = regmatch<uint32_t>(m_program);
+    if (result == MatchResult::NeedWidePositions) {
+        // Offsets beyond 32 bits: run the same attempt with wide records.
+        m_stepsLeft = stepsBefore;
+        m_input = position;
+        ClearGroups();
+        result = regmatch<uint64_t>(m_program);
+    }
+    if (result == MatchResult::OutOfSteps) {
+        m_stepLimitExceeded = true;
+        ClearGroups();
+        return false;
+    }
+    if (result != MatchResult::Match)
+        return false;
+    m_groupStart[0] = position;
+    m_groupEnd[0] = m_input;
+    return true;
+}
+
+size_t VU_CRegExpression::regrepeat(const char16_t* node, const char16_t* at) const {
+    switch (OP(node)) {
+    case OpAnyChar:
+        return VU_CRegExpScan::Length(at);
+    case OpLiteral:
+        return VU_CRegExpScan::RunOf(at, *OPERAND(node));
+    case OpInSet:
+    case OpNotInSet: {
+        const SetInfo* info = FindSetInfo(node);
+        if (!info)
+            return 0;
+        const bool wanted = OP(node) == OpInSet;
+        const char16_t* p = at;
+        while (*p && info->members.Contains(*p) == wanted)
+            ++p;
+        return size_t(p - at);
+    }
+    default:
+        return 0;
+    }
+}
+
+// The first alternative of the chain from `alt` whose contents could start
+// with `c`; alternatives whose first node rejects `c` would fail at once and
+// leave nothing behind, so skipping them keeps the order of attempts.
+const char16_t* VU_CRegExpression::SkipDeadAlternatives(const char16_t* alt, char16_t c) const {
+    for (; alt && OP(alt) == OpAlternative; alt = regnext(alt)) {
+        const char16_t* first = OPERAND(alt);
+        switch (OP(first)) {
+        case OpLiteral:
+            if (*OPERAND(first) == c)
+                return alt;
+            break;
+        case OpAnyChar:
+            if (c)
+                return alt;
+            break;
+        case OpInSet:
+            if (c && InSet(first, c))
+                return alt;
+            break;
+        case OpNotInSet:
+            if (c && !InSet(first, c))
+                return alt;
+            break;
+        default:
+            return alt;
+        }
+        if (!regnext(alt) || OP(regnext(alt)) != OpAlternative)
+            return nullptr;
+    }
+    return nullptr;
+}
+
+// regmatch: depth-first search over the program from `start` at m_input.
+// The recursion of the classic matcher is replaced by a stack of records in
+// m_stack (32-bit words, the header word on top):
+//   choice of the remaining alternatives  [pos][alt << 2 | 0]
+//   choice of shorter repetitions         [start][count][node << 2 | 1]
+//   group boundary passed                 [pos][slot << 2 | 2]
+// A failure pops back to the latest choice. On success the group positions
+// are read from the boundary records, the latest per group winning, which
+// is what the recursive matcher records while it returns.
+// Pos is uint32_t (offsets from the string start, 4 G units) or uint64_t.
+template <class Pos>
+VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start) {
+    constexpr size_t kPosWords = sizeof(Pos) / sizeof(uint32_t);
+    constexpr bool kNarrow = kPosWords == 1;
+    enum : uint32_t { kBranch = 0, kRepeat = 1, kGroup = 2 };
+
+    const char16_t* const base = m_stringStart;
+    const char16_t* const program = m_program;
+    std::vector<uint32_t>& stack = m_stack;
+    stack.clear();
+    unsigned long long steps = m_stepsLeft;
+    const char16_t* in = m_input;
+    const char16_t* node = start;
+
+    auto push = [&stack](uint64_t value) {
+        stack.push_back(uint32_t(value));
+        if constexpr (!kNarrow)
+            stack.push_back(uint32_t(value >> 32));
+    };
+    auto read = [&stack](size_t at) -> uint64_t {
+        if constexpr (kNarrow)
+            return stack[at];
+        else
+            return uint64_t(stack[at]) | (uint64_t(stack[at + 1]) << 32);
+    };
+    auto write = [&stack](size_t at, uint64_t value) {
+        stack[at] = uint32_t(value);
+        if constexpr (!kNarrow)
+            stack[at + 1] = uint32_t(value >> 32);
+    };
+    auto offsetOf = [program](const char16_t* p) { return uint32_t(p - program); };
+
+    for (;;) {
+        // ---- advance along the program until success or failure
+        bool failed = false;
+        while (!failed) {
+            if (--steps == 0) {
+                m_stepsLeft = 0;
+                return MatchResult::OutOfSteps;
+            }
+            if (!node) {
+                failed = true;
+                break;
+            }
+            const char16_t* next = regnext(node);
+            const char16_t op = OP(node);
+            switch (op) {
+            case OpAtStart:
+                failed = in != base;
+                break;
+            case OpAtEnd:
+                failed = *in != 0;
+                break;
+            case OpAnyChar:
+                if (*in)
+                    ++in;
+                else
+                    failed = true;
+                break;
+            case OpInSet:
+                if (*in && InSet(node, *in))
+                    ++in;
+                else
+                    failed = true;
+                break;
+            case OpNotInSet:
+                if (*in && !InSet(node, *in))
+                    ++in;
+                else
+                    failed = true;
+                break;
+            case OpLiteral: {
+                const char16_t* lit = OPERAND(node);
+                if (*lit != *in) {
+                    failed = true;
+                    break;
+                }
+                ++lit;
+                ++in;
+                while (*lit && *lit == *in) {
+                    ++lit;
+                    ++in;
+                }
+                failed = *lit != 0;
+                break;
+            }
+            case OpEmpty:
+            case OpLoopBack:
+                break;
+            case OpAlternative: {
+                if (!next || OP(next) != OpAlternative) {
+                    next = OPERAND(node); // a single choice
+                    break;
+                }
+                const char16_t* first = SkipDeadAlternatives(node, *in);
+                if (!first) {
+                    failed = true;
+                    break;
+                }
+                const char16_t* rest = regnext(first);
+                rest =
+                    rest && OP(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
+                if (rest) {
+                    const uint64_t pos = uint64_t(in - base);
+                    if (kNarrow && pos > UINT32_MAX)
+                        return MatchResult::NeedWidePositions;
+                    push(pos);
+                    stack.push_back(offsetOf(rest) << 2 | kBranch);
+                }
+                next = OPERAND(first);
+                break;
+            }
+            case OpStar:
+            case OpPlus: {
+                const size_t minimum = op == OpStar ? 0 : 1;
+                const char16_t lookAhead = next && OP(next) == OpLiteral ? *OPERAND(next) : 0;
+                const size_t count = regrepeat(OPERAND(node), in);
+                if (m_stepLimit) {
+                    const unsigned long long cost = count >> 4;
+                    if (cost >= steps) {
+                        m_stepsLeft = 0;
+                        return MatchResult::OutOfSteps;
+                    }
+                    steps -= cost;
+                }
+                if (count < minimum) {
+                    failed = true;
+                    break;
+                }
+                // The longest repetition the next literal can follow.
+                size_t k = count;
+                if (lookAhead) {
+                    while (in[k] != lookAhead && k > minimum)
+                        --k;
+                    if (in[k] != lookAhead) {
+                        failed = true;
+                        break;
+                    }
+                }
+                if (k > minimum) {
+                    const uint64_t pos = uint64_t(in - base);
+                    if (kNarrow && pos + count > UINT32_MAX)
+                        return MatchResult::NeedWidePositions;
+                    push(pos);
+                    push(k);
+                    stack.push_back(offsetOf(node) << 2 | kRepeat);
+                }
+                in += k;
+                break;
+            }
+            case OpEnd: {
+                // Success: the latest boundary record of each group wins.
+                bool seen[2 * kGroupCount] = {};
+                for (size_t top = stack.size(); top > 0;) {
+                    const uint32_t header = stack[top - 1];
+                    const uint32_t kind = header & 3;
+                    if (kind == kGroup) {
+                        const uint32_t slot = header >> 2;
+                        const char16_t* at = base + read(top - 1 - kPosWords);
+                        if (!seen[slot]) {
+                            seen[slot] = true;
+                            if (slot < kGroupCount)
+                                m_groupStart[slot] = at;
+                            else
+                                m_groupEnd[slot - kGroupCount] = at;
+                        }
+                    }
+                    top -= 1 + (kind == kRepeat ? 2 : 1) * kPosWords;
+                }
+                m_input = in;
+                m_stepsLeft = steps;
+                return MatchResult::Match;
+            }
+            default:
+                if (op > OpGroupOpen && op < OpGroupOpen + kGroupCount) {
+                    const uint64_t pos = uint64_t(in - base);
+                    if (kNarrow && pos > UINT32_MAX)
+                        return MatchResult::NeedWidePositions;
+                    push(pos);
+                    stack.push_back(uint32_t(op - OpGroupOpen) << 2 | kGroup);
+                } else if (op > OpGroupClose && op < OpGroupClose + kGroupCount) {
+                    const uint64_t pos = uint64_t(in - base);
+                    if (kNarrow && pos > UINT32_MAX)
+                        return MatchResult::NeedWidePositions;
+                    push(pos);
+                    stack.push_back(uint32_t(kGroupCount + op - OpGroupClose) << 2 | kGroup);
+                } else {
+                    failed = true; // not an opcode
+                }
+                break;
+            }
+            if (!failed)
+                node = next;
+        }
+
+        // ---- backtrack to the latest choice
+        bool resumed = false;
+        while (!resumed) {
+            if (stack.empty()) {
+                m_stepsLeft = steps;
+                return MatchResult::Fail;
+            }
+            if (--steps == 0) {
+                m_stepsLeft = 0;
+                return MatchResult::OutOfSteps;
+            }
+            const uint32_t header = stack.back();
+            switch (header & 3) {
+            case kGroup:
+                stack.resize(stack.size() - 1 - kPosWords);
+                break;
+            case kBranch: {
+                const size_t at = stack.size() - 1 - kPosWords;
+                const uint64_t pos = read(at);
+                stack.resize(at);
+                const char16_t* alt = program + (header >> 2);
+                in = base + pos;
+                const char16_t* rest = regnext(alt);
+                rest =
+                    rest && OP(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
+                if (rest) {
+                    push(pos);
+                    stack.push_back(offsetOf(rest) << 2 | kBranch);
+                }
+                node = OPERAND(alt);
+                resumed = true;
+                break;
+            }
+            default: { // kRepeat
+                const size_t countAt = stack.size() - 1 - kPosWords;
+                const size_t startAt = countAt - kPosWords;
+                const char16_t* repeat = program + (header >> 2);
+                const char16_t* next = regnext(repeat);
+                const size_t minimum = OP(repeat) == OpStar ? 0 : 1;
+                const char16_t lookAhead = next && OP(next) == OpLiteral ? *OPERAND(next) : 0;
+                const char16_t* from = base + read(startAt);
+                size_t k = size_t(read(countAt));
+                bool found = false;
+                while (k > minimum) {
+                    --k;
+                    if (!lookAhead || from[k] == lookAhead) {
+                        found = true;
+                        break;
+                    }
+                }
+                if (!found) {
+                    stack.resize(startAt);
+                    break;
+                }
+                if (k > minimum)
+                    write(countAt, k);
+                else
+                    stack.resize(startAt);
+                in = from + k;
+                node = next;
+                resumed = true;
+                break;
+            }
+            }
+        }
+    }
+}
+
+template VU_CRegExpression::MatchResult VU_CRegExpression::regmatch<uint32_t>(const char16_t*);
+template VU_CRegExpression::MatchResult VU_CRegExpression::regmatch<uint64_t>(const char16_t*);
+
+// ---- Results -----------------------------------------------------------
+
+int VU_CRegExpression::GetFindLen() const {
+    if (!m_groupStart[0] || !m_groupEnd[0])
+        return 0;
+    const ptrdiff_t length = m_groupEnd[0] - m_groupStart[0];
+    return length > INT_MAX ? INT_MAX : int(length);
+}
+
+int VU_CRegExpression::GetGroupStart(int n) const {
+    if (n < 0 || n >= kGroupCount || !m_groupStart[n])
+        return -1;
+    return int(m_groupStart[n] - m_stringStart);
+}
+
+int VU_CRegExpression::GetGroupEnd(int n) const {
+    if (n < 0 || n >= kGroupCount || !m_groupEnd[n])
+        return -1;
+    return int(m_groupEnd[n] - m_stringStart);
+}
+
+char16_t* VU_CRegExpression::GetReplaceString(const char16_t* replacement) const {
+    if (!replacement || !m_hasFound)
+        return nullptr;
+    const size_t foundLength = m_foundText.size() - 1;
+    // Two passes with the same rules: count, then copy.
+    auto expand = [&](char16_t* out) {
+        size_t n = 0;
+        for (const char16_t* src = replacement; *src;) {
+            char16_t c = *src++;
+            int group = -1;
+            if (c == u'&')
+                group = 0;
+            else if (c == u'\\' && *src >= u'0' && *src <= u'9')
+                group = *src++ - u'0';
+            if (group < 0) {
+                if (c == u'\\' && (*src == u'\\' || *src == u'&'))
+                    c = *src++;
+                if (out)
+                    out[n] = c;
+                ++n;
+                continue;
+            }
+            const char16_t* from = m_groupStart[group];
+            const char16_t* to = m_groupEnd[group];
+            if (!from || !to || to <= from || from < m_groupStart[0])
+                continue;
+            const size_t offset = size_t(from - m_groupStart[0]);
+            const size_t length =
+                std::min(size_t(to - from), foundLength - std::min(offset, foundLength));
+            if (out)
+                std::copy(m_foundText.data() + offset, m_foundText.data() + offset + length,
+                          out + n);
+            n += length;
+        }
+        return n;
+    };
+    const size_t length = expand(nullptr);
+    char16_t* result = new (std::nothrow) char16_t[length + 1];
+    if (!result)
+        return nullptr;
+    expand(result);
+    result[length] = 0;
+    return result;
+}

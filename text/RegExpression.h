@@ -1,0 +1,194 @@
+#pragma once
+
+// VU_CRegExpression: a small regular-expression engine over NUL-terminated
+// UTF-16 text (one character = one 16-bit unit, compared exactly).
+//
+// Dialect: ^ $ . [set] [^set] (group) a|b x* x+ x? \c. `^` and `$` match only
+// at the start and the end of the searched string; up to nine groups; no
+// escape classes, counted repeats, lazy forms or back-references.
+//
+// RegComp compiles a pattern in two passes (size, then emit) into a node
+// program (see the opcode list below; the format is stable and may be read by
+// tests). RegFind runs a backtracking matcher that tries positions left to
+// right and, at each, paths in a fixed order (greedy repeats, first
+// alternative first); the first successful path is the match. The matcher
+// keeps its choice points on an explicit heap stack, so long subjects cannot
+// overflow the machine stack; an optional step budget bounds its running time.
+//
+// Copying duplicates the program and the found text (each object owns its
+// own); the group positions of a copy point into the same searched string.
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class VU_CRegExpression {
+public:
+    // Node opcodes. A node is: opcode (1 unit), 32-bit next link (2 units,
+    // low half first), then, for OpInSet/OpNotInSet/OpLiteral, a
+    // NUL-terminated operand. The link of OpLoopBack points backwards.
+    enum Opcode : char16_t {
+        OpEnd = 0,         // success
+        OpAtStart = 1,     // empty, at the start of the searched string
+        OpAtEnd = 2,       // empty, at the terminating NUL
+        OpAnyChar = 3,     // any one character
+        OpInSet = 4,       // one character from the operand list
+        OpNotInSet = 5,    // one character not in the operand list
+        OpAlternative = 6, // one choice; its contents start at unit 3
+        OpLoopBack = 7,    // empty; link points backwards
+        OpLiteral = 8,     // the operand string
+        OpEmpty = 9,       // empty
+        OpStar = 10,       // zero or more of the simple node at unit 3
+        OpPlus = 11,       // one or more of the simple node at unit 3
+        OpGroupOpen = 20,  // + n: start of group n (1..9)
+        OpGroupClose = 30, // + n: end of group n (1..9)
+    };
+
+    // Flags passed between the parsing steps.
+    enum ParseFlag : int {
+        HasWidth = 1,         // cannot match the empty string
+        Simple = 2,           // single-character matcher, usable under OpStar/OpPlus
+        StartsWithRepeat = 4, // begins with a repetition
+    };
+
+    static constexpr int kGroupCount = 10;    // group 0 (whole match) and 1..9
+    static constexpr unsigned kNodeUnits = 3; // opcode + two link units
+
+    // Construction
+    VU_CRegExpression();
+    ~VU_CRegExpression();
+    VU_CRegExpression(const VU_CRegExpression& other);
+    VU_CRegExpression& operator=(const VU_CRegExpression& other);
+    VU_CRegExpression(VU_CRegExpression&& other) noexcept;
+    VU_CRegExpression& operator=(VU_CRegExpression&& other) noexcept;
+
+    // Operations
+
+    // Compiles `pattern`; returns this, or null on a syntax error or a null
+    // pattern. After a failed compile the previous program stays in use.
+    VU_CRegExpression* RegComp(const char16_t* pattern);
+    // Index of the first match in `string`, or -1.
+    int RegFind(const char16_t* string);
+    // Length of the last whole match, 0 when there is none.
+    int GetFindLen() const;
+    // The replacement template expanded with the last match (& and \0..\9
+    // insert groups, \\ and \& give \ and &); a new array the caller frees
+    // with delete[], or null after a failed search or for a null template.
+    char16_t* GetReplaceString(const char16_t* replacement) const;
+
+    // Step budget: 0 (the default) means unlimited. When a search runs out of
+    // steps RegFind returns -1 and IsStepLimitExceeded() is true until the
+    // next search. A step is one node visited or one backtrack; scanning a
+    // repetition costs one step per 16 characters.
+    void SetStepLimit(unsigned long long limit) { m_stepLimit = limit; }
+    unsigned long long GetStepLimit() const { return m_stepLimit; }
+    bool IsStepLimitExceeded() const { return m_stepLimitExceeded; }
+
+    // Attributes (mainly for tests and diagnostics)
+    bool IsCompiled() const { return m_compiled != 0; }
+    const char16_t* GetProgram() const { return m_program; }
+    unsigned GetProgramSize() const { return m_program ? m_programSize : 0; }
+    char16_t GetFirstChar() const { return m_firstChar; }
+    bool IsAnchored() const { return m_anchored != 0; }
+    const char16_t* GetRequiredLiteral() const { return m_required; }
+    unsigned GetRequiredLength() const { return m_requiredLength; }
+    // Group n (0..9) of the last search as character offsets from the start
+    // of the string last searched, or -1 when not set.
+    int GetGroupStart(int n) const;
+    int GetGroupEnd(int n) const;
+    // The text of the last match, or null after a failed search.
+    const char16_t* GetFoundText() const { return m_hasFound ? m_foundText.data() : nullptr; }
+
+    // Reads the 32-bit link of the node at `node`.
+    static uint32_t ReadLink(const char16_t* node) {
+        return uint32_t(node[1]) | (uint32_t(node[2]) << 16);
+    }
+
+private:
+    // A character class as sorted, merged ranges, with an ASCII bitmap.
+    struct CharRanges {
+        std::vector<char16_t> lo, hi; // inclusive
+        uint64_t ascii[4] = {0, 0, 0, 0};
+        bool Contains(char16_t c) const;
+    };
+    // Membership data for one OpInSet/OpNotInSet node.
+    struct SetInfo {
+        uint32_t node; // offset of the node in the program
+        CharRanges members;
+    };
+    enum class MatchResult { Fail, Match, OutOfSteps, NeedWidePositions };
+
+    // Parser, one step per grammar level
+    char16_t* reg(bool paren, int& flags);
+    char16_t* regbranch(int& flags);
+    char16_t* regpiece(int& flags);
+    char16_t* regatom(int& flags);
+    char16_t* regset();
+    // Emitters
+    char16_t* regnode(char16_t op);
+    void regc(char16_t ch);
+    void reginsert(char16_t op, char16_t* operand);
+    void regtail(char16_t* p, const char16_t* target);
+    void regoptail(char16_t* p, const char16_t* target);
+    // Node access
+    static const char16_t* regnext(const char16_t* p);
+    static char16_t* regnext(char16_t* p);
+    static char16_t OP(const char16_t* p) { return *p; }
+    static const char16_t* OPERAND(const char16_t* p) { return p + kNodeUnits; }
+    static char16_t* OPERAND(char16_t* p) { return p + kNodeUnits; }
+    // Matcher
+    bool regtry(const char16_t* position);
+    template <class Pos> MatchResult regmatch(const char16_t* node);
+    size_t regrepeat(const char16_t* node, const char16_t* at) const;
+    bool InSet(const char16_t* node, char16_t c) const;
+    const SetInfo* FindSetInfo(const char16_t* node) const;
+    const char16_t* SkipDeadAlternatives(const char16_t* alt, char16_t c) const;
+
+    // Compile-time analysis
+    void ComputeHints(int flags);
+    void BuildSetInfo();
+    void ComputeStartSet();
+    bool CollectStartChars(const char16_t* node, std::vector<uint64_t>& bits,
+                           std::vector<uint8_t>& visiting, int depth) const;
+
+    // Search helpers
+    int FinishMatch(const char16_t* position);
+    void ClearGroups();
+    void DiscardFoundText() { m_hasFound = false; }
+    void CopyFrom(const VU_CRegExpression& other);
+    void Release();
+
+    // State, in the order of the classic layout, then our additions
+    uint32_t m_emitting = 0;                        // 0 sizing pass, 1 emitting pass
+    uint32_t m_compiled = 0;                        // set by RegComp
+    std::vector<char16_t> m_foundText;              // copy of the last match + NUL
+    bool m_hasFound = false;                        // m_foundText is valid
+    const char16_t* m_groupStart[kGroupCount] = {}; // group starts in the searched string
+    const char16_t* m_groupEnd[kGroupCount] = {};   // group ends (one past)
+    char16_t m_firstChar = 0;                       // every match begins with it, or 0
+    uint16_t m_anchored = 0;                        // matches only at the string start
+    const char16_t* m_required = nullptr;           // literal every match contains
+    uint32_t m_requiredLength = 0;                  // its length
+    char16_t* m_program = nullptr;                  // the node program (owned)
+    const char16_t* m_parse = nullptr;              // pattern position while compiling
+    int m_groupCount = 1;                           // next group number while compiling
+    char16_t* m_emit = nullptr;                     // next unit to write
+    char16_t m_dummy[kNodeUnits] = {OpEmpty, 0, 0}; // target of sizing-pass writes
+    uint64_t m_programSize = 0;                     // units counted by the sizing pass
+    const char16_t* m_input = nullptr;              // matcher position
+    const char16_t* m_stringStart = nullptr;        // where ^ matches
+
+    // Search acceleration, derived from the program at compile time
+    const char16_t* m_firstLiteral = nullptr; // operand of the leading literal
+    uint32_t m_firstLiteralLength = 0;
+    bool m_leadingRepeat = false; // program starts with OpStar/OpPlus
+    bool m_hasStartSet = false;   // every match starts with a char in m_startSet
+    CharRanges m_startSet;
+    std::vector<SetInfo> m_sets; // sorted by node offset
+
+    // Matching budget and scratch
+    unsigned long long m_stepLimit = 0; // 0 = unlimited
+    unsigned long long m_stepsLeft = 0; // remaining in the current search
+    bool m_stepLimitExceeded = false;   // the last search ran out of steps
+    std::vector<uint32_t> m_stack;      // backtracking records (reused)
+};
