@@ -24,34 +24,3 @@ TEST(FrameworkHeaders, ScalarTypesHaveTheSystemWidths) {
     EXPECT_EQ(TRUE, 1);
     EXPECT_EQ(FALSE, 0);
 }
-
-namespace {
-struct Handle__;
-typedef Handle__* HANDLE_T;
-} // namespace
-
-TEST(FrameworkHeaders, TemplatesInstantiate) {
-    CArray<int, int> ints;
-    ints.Add(1);
-    CStringArray strings;
-    strings.Add(u"a");
-    strings.Add(CString(u"b"));
-    CObArray objects;
-    objects.Add(nullptr);
-    CUIntArray uints;
-    uints.SetSize(3);
-    CWordArray words;
-    words.InsertAt(2, 7);
-    CMap<int, int, CString, const CString&> byInt;
-    byInt[5] = u"five";
-    CMap<CString, const CString&, int, int> byName;
-    byName.SetAt(CString(u"x"), 1);
-    CMap<HANDLE_T, HANDLE_T&, int, int> byHandle;
-    HANDLE_T h = reinterpret_cast<HANDLE_T>(0x100);
-    byHandle[h] = 2;
-    int v = 0;
-    EXPECT_TRUE(byHandle.Lookup(h, v));
-    EXPECT_EQ(v, 2);
-    EXPECT_EQ(words.GetSize(), 3);
-    EXPECT_EQ(strings.GetSize(), 2);
-}

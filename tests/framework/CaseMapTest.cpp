@@ -1,0 +1,136 @@
+#include "framework/CaseMap.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <string>
+
+namespace {
+
+TEST(CaseMap, AsciiMatchesTheCRuntimeInTheCLocale) {
+    // No test calls setlocale, so the C runtime is in the "C" locale.
+    for (int c = 0; c < 0x80; ++c) {
+        SCOPED_TRACE(c);
+        EXPECT_EQ(vu::ToLower(static_cast<char16_t>(c)), std::tolower(c));
+        EXPECT_EQ(vu::ToUpper(static_cast<char16_t>(c)), std::toupper(c));
+    }
+}
+
+TEST(CaseMap, WellKnownSimpleMappings) {
+    struct Row {
+        const char* name;
+        char16_t ch, lower, upper;
+    } rows[] = {
+        {"A umlaut", 0x00C4, 0x00E4, 0x00C4},
+        {"a umlaut", 0x00E4, 0x00E4, 0x00C4},
+        {"dotted capital I", 0x0130, 0x0069, 0x0130},
+        {"dotless small i", 0x0131, 0x0131, 0x0049},
+        {"capital sharp s", 0x1E9E, 0x00DF, 0x1E9E},
+        {"sharp s has no simple upper", 0x00DF, 0x00DF, 0x00DF},
+        {"final sigma", 0x03C2, 0x03C2, 0x03A3},
+        {"capital sigma", 0x03A3, 0x03C3, 0x03A3},
+        {"micro sign", 0x00B5, 0x00B5, 0x039C},
+        {"y diaeresis", 0x00FF, 0x00FF, 0x0178},
+        {"titlecase dz", 0x01C5, 0x01C6, 0x01C4},
+        {"cyrillic zhe", 0x0416, 0x0436, 0x0416},
+        {"cyrillic small zhe", 0x0436, 0x0436, 0x0416},
+        {"fullwidth A", 0xFF21, 0xFF41, 0xFF21},
+        {"fullwidth a", 0xFF41, 0xFF41, 0xFF21},
+        {"roman numeral one", 0x2160, 0x2170, 0x2160},
+        {"circled A", 0x24B6, 0x24D0, 0x24B6},
+        {"georgian", 0x10A0, 0x2D00, 0x10A0},
+        {"cherokee small", 0xAB70, 0xAB70, 0x13A0},
+        {"kelvin sign", 0x212A, 0x006B, 0x212A},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        EXPECT_EQ(vu::ToLower(r.ch), r.lower);
+        EXPECT_EQ(vu::ToUpper(r.ch), r.upper);
+    }
+}
+
+TEST(CaseMap, NonLettersMapToThemselves) {
+    const char16_t fixed[] = {0x0000, u'0',   u'@',   u'[',   u'`',   u'{',   0x007F,
+                              0x00A0, 0x00D7, 0x00F7, 0x2000, 0x4E00, 0x3042, 0xD800,
+                              0xDBFF, 0xDC00, 0xDFFF, 0xE000, 0xFF10, 0xFFFD, 0xFFFF};
+    for (char16_t c : fixed) {
+        SCOPED_TRACE(static_cast<int>(c));
+        EXPECT_EQ(vu::ToLower(c), c);
+        EXPECT_EQ(vu::ToUpper(c), c);
+    }
+}
+
+TEST(CaseMap, EveryMappingStaysALetterOfTheOtherCase) {
+    // Lowering then uppering a lowercase letter's image comes back to a
+    // letter that lowers to the same image: the two tables agree.
+    int checked = 0;
+    for (unsigned c = 0; c <= 0xFFFF; ++c) {
+        const char16_t lower = vu::ToLower(static_cast<char16_t>(c));
+        if (lower == c)
+            continue;
+        ++checked;
+        EXPECT_EQ(vu::ToLower(lower), lower) << std::hex << c;
+        EXPECT_EQ(vu::ToLower(vu::ToUpper(lower)), lower) << std::hex << c;
+    }
+    EXPECT_GT(checked, 1000);
+}
+
+TEST(CaseMap, CompareNoCaseOrdersByLoweredUnits) {
+    struct Row {
+        const char* name;
+        std::u16string a, b;
+        int want;
+    } rows[] = {
+        {"equal ascii", u"Hello", u"hELLO", 0},
+        {"equal latin", u"\u00C4\u00D6\u00DC", u"\u00E4\u00F6\u00FC", 0},
+        {"prefix shorter first", u"ab", u"ABC", -1},
+        {"underscore before letters", u"_", u"a", -1},
+        {"underscore before capitals too", u"_", u"A", -1},
+        {"bracket after lowered Z", u"[", u"Z", -1},
+        {"greek", u"\u0391\u0392\u0393", u"\u03B1\u03B2\u03B3", 0},
+        {"dotted I equals i", u"\u0130", u"i", 0},
+        {"dotless i is not i", u"\u0131", u"I", 1},
+        {"empty", u"", u"", 0},
+        {"empty first", u"", u"a", -1},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        const int got = vu::CompareNoCase(r.a, r.b);
+        EXPECT_EQ((got > 0) - (got < 0), r.want);
+        const int back = vu::CompareNoCase(r.b, r.a);
+        EXPECT_EQ((back > 0) - (back < 0), -r.want);
+        EXPECT_EQ(vu::EqualNoCase(r.a, r.b), r.want == 0);
+    }
+}
+
+TEST(CaseMap, EqualNoCaseAgreesWithCompareNoCase) {
+    // Pseudo-random strings over an alphabet of both cases, so that many
+    // pairs are equal ignoring case.
+    const char16_t alphabet[] = {u'a',   u'A',   u'z',   u'Z',   u'_',   0x00E4, 0x00C4,
+                                 0x03C3, 0x03A3, 0x03C2, 0x0131, 0x0130, u'i',   u'I'};
+    unsigned x = 7;
+    auto next = [&x] {
+        x = x * 1664525u + 1013904223u;
+        return x >> 16;
+    };
+    int equal = 0;
+    for (int i = 0; i < 5000; ++i) {
+        std::u16string a, b;
+        const unsigned len = next() % 4;
+        for (unsigned k = 0; k < len; ++k) {
+            const unsigned pick = next() % std::size(alphabet);
+            a.push_back(alphabet[pick]);
+            // Same letter, case flipped half of the time.
+            const char16_t c = alphabet[pick];
+            b.push_back(next() % 2 ? vu::ToUpper(c) : vu::ToLower(c));
+        }
+        if (next() % 3 == 0 && !b.empty())
+            b.back() = alphabet[next() % std::size(alphabet)];
+        const bool eq = vu::EqualNoCase(a, b);
+        equal += eq;
+        ASSERT_EQ(eq, vu::CompareNoCase(a, b) == 0) << i;
+    }
+    EXPECT_GT(equal, 1000);
+}
+
+} // namespace

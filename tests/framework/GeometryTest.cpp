@@ -1,0 +1,193 @@
+#include "framework/Point.h"
+#include "framework/Rect.h"
+#include "framework/Size.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <ostream>
+
+// Printers so that failures show coordinates.
+void PrintTo(const CRect& r, std::ostream* os) {
+    *os << "(" << r.left << "," << r.top << "," << r.right << "," << r.bottom << ")";
+}
+void PrintTo(const CPoint& p, std::ostream* os) {
+    *os << "(" << p.x << "," << p.y << ")";
+}
+void PrintTo(const CSize& s, std::ostream* os) {
+    *os << "[" << s.cx << "x" << s.cy << "]";
+}
+
+namespace {
+
+// A stand-in with the system RECT's shape, to check the layout promise and the
+// conversions that the Windows layer relies on.
+struct SysRect {
+    LONG left, top, right, bottom;
+};
+struct SysPoint {
+    LONG x, y;
+};
+
+TEST(CRect, HasTheLayoutOfTheSystemRect) {
+    static_assert(sizeof(CRect) == sizeof(SysRect));
+    static_assert(offsetof(CRect, left) == 0 && offsetof(CRect, top) == sizeof(LONG) &&
+                  offsetof(CRect, right) == 2 * sizeof(LONG) &&
+                  offsetof(CRect, bottom) == 3 * sizeof(LONG));
+    CRect r(1, 2, 3, 4);
+    SysRect* sys = r; // the RECT* view
+    sys->right = 30;
+    EXPECT_EQ(r, CRect(1, 2, 30, 4));
+    const SysRect from{5, 6, 7, 8};
+    EXPECT_EQ(CRect(from), CRect(5, 6, 7, 8));
+    SysPoint sp{9, 10};
+    CPoint p = sp;
+    static_cast<SysPoint*>(p)->x = 11;
+    EXPECT_EQ(p, CPoint(11, 10));
+}
+
+TEST(CRect, NormalizeRectSwapsReversedSides) {
+    struct Row {
+        const char* name;
+        CRect in, want;
+    } rows[] = {
+        {"both reversed", CRect(10, 20, 0, 5), CRect(0, 5, 10, 20)},
+        {"x reversed", CRect(10, 0, 0, 5), CRect(0, 0, 10, 5)},
+        {"y reversed", CRect(0, 5, 10, 0), CRect(0, 0, 10, 5)},
+        {"already normal", CRect(1, 2, 3, 4), CRect(1, 2, 3, 4)},
+        {"negative", CRect(-1, -2, -3, -4), CRect(-3, -4, -1, -2)},
+    };
+    for (Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        r.in.NormalizeRect();
+        EXPECT_EQ(r.in, r.want);
+    }
+}
+
+TEST(CRect, PtInRectIncludesTopLeftAndExcludesBottomRight) {
+    const CRect r(0, 0, 10, 10);
+    struct Row {
+        CPoint pt;
+        bool in;
+    } rows[] = {
+        {{0, 0}, true},   {{9, 9}, true},   {{10, 5}, false},  {{5, 10}, false},
+        {{-1, 5}, false}, {{5, -1}, false}, {{10, 10}, false}, {{9, 0}, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.pt));
+        EXPECT_EQ(r.PtInRect(row.pt), row.in);
+    }
+    EXPECT_FALSE(CRect(5, 5, 5, 5).PtInRect(CPoint(5, 5)));   // empty
+    EXPECT_FALSE(CRect(10, 10, 0, 0).PtInRect(CPoint(5, 5))); // reversed
+}
+
+TEST(CRect, EmptyAndNullDiffer) {
+    EXPECT_TRUE(CRect(5, 5, 5, 9).IsRectEmpty());
+    EXPECT_FALSE(CRect(5, 5, 5, 9).IsRectNull());
+    EXPECT_TRUE(CRect(5, 5, 4, 9).IsRectEmpty());
+    EXPECT_TRUE(CRect().IsRectEmpty());
+    EXPECT_TRUE(CRect().IsRectNull());
+    EXPECT_FALSE(CRect(0, 0, 1, 1).IsRectEmpty());
+}
+
+TEST(CRect, IntersectAndUnionStoreEmptyResultsAsZeros) {
+    struct Row {
+        const char* name;
+        CRect a, b;
+        bool intersects;
+        CRect overlap, bounds;
+    } rows[] = {
+        {"overlap", {0, 0, 10, 10}, {5, 5, 15, 15}, true, {5, 5, 10, 10}, {0, 0, 15, 15}},
+        {"touching edges", {0, 0, 10, 10}, {10, 0, 20, 10}, false, {}, {0, 0, 20, 10}},
+        {"disjoint", {0, 0, 1, 1}, {5, 5, 6, 6}, false, {}, {0, 0, 6, 6}},
+        {"contained", {0, 0, 10, 10}, {2, 3, 4, 5}, true, {2, 3, 4, 5}, {0, 0, 10, 10}},
+        {"one empty", {0, 0, 10, 10}, {3, 3, 3, 8}, false, {}, {0, 0, 10, 10}},
+        {"both empty", {4, 4, 4, 4}, {7, 7, 2, 2}, false, {}, {}},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        CRect out(-1, -1, -1, -1);
+        EXPECT_EQ(out.IntersectRect(r.a, r.b), r.intersects);
+        EXPECT_EQ(out, r.overlap);
+        EXPECT_EQ(r.a & r.b, r.overlap);
+        CRect u(-1, -1, -1, -1);
+        EXPECT_EQ(u.UnionRect(r.a, r.b), !r.bounds.IsRectEmpty());
+        EXPECT_EQ(u, r.bounds);
+        EXPECT_EQ(r.a | r.b, r.bounds);
+    }
+}
+
+TEST(CRect, SubtractRectCutsOnlyWholeSides) {
+    const CRect base(0, 0, 10, 10);
+    struct Row {
+        const char* name;
+        CRect cut;
+        bool left;
+        CRect want;
+    } rows[] = {
+        {"left strip", {-5, -5, 4, 20}, true, {4, 0, 10, 10}},
+        {"right strip", {6, 0, 10, 10}, true, {0, 0, 6, 10}},
+        {"top strip", {0, 0, 10, 3}, true, {0, 3, 10, 10}},
+        {"bottom strip", {-1, 7, 11, 12}, true, {0, 0, 10, 7}},
+        {"hole in the middle", {3, 3, 6, 6}, true, {0, 0, 10, 10}},
+        {"corner", {5, 5, 20, 20}, true, {0, 0, 10, 10}},
+        {"everything", {-1, -1, 11, 11}, false, {}},
+        {"disjoint", {20, 20, 30, 30}, true, {0, 0, 10, 10}},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        CRect out;
+        EXPECT_EQ(out.SubtractRect(base, r.cut), r.left);
+        EXPECT_EQ(out, r.want);
+    }
+}
+
+TEST(CRect, InflateDeflateAndOffsetOverloads) {
+    CRect r(10, 10, 20, 20);
+    r.InflateRect(1, 2);
+    EXPECT_EQ(r, CRect(9, 8, 21, 22));
+    r.DeflateRect(CSize(1, 2));
+    EXPECT_EQ(r, CRect(10, 10, 20, 20));
+    r.InflateRect(CRect(1, 2, 3, 4));
+    EXPECT_EQ(r, CRect(9, 8, 23, 24));
+    r.DeflateRect(1, 2, 3, 4);
+    EXPECT_EQ(r, CRect(10, 10, 20, 20));
+    EXPECT_EQ(r + CRect(1, 1, 1, 1), CRect(9, 9, 21, 21));
+    EXPECT_EQ(r - CRect(1, 1, 1, 1), CRect(11, 11, 19, 19));
+    EXPECT_EQ(r + CPoint(5, -5), CRect(15, 5, 25, 15));
+    EXPECT_EQ(r - CSize(5, 5), CRect(5, 5, 15, 15));
+    EXPECT_EQ(CPoint(1, 1) + r, CRect(11, 11, 21, 21));
+    r.OffsetRect(-10, -10);
+    EXPECT_EQ(r, CRect(0, 0, 10, 10));
+    r.MoveToXY(CPoint(100, 200));
+    EXPECT_EQ(r, CRect(100, 200, 110, 210));
+    EXPECT_EQ(r.Size(), CSize(10, 10));
+    EXPECT_EQ(r.TopLeft(), CPoint(100, 200));
+    EXPECT_EQ(r.BottomRight(), CPoint(110, 210));
+    EXPECT_EQ(CRect(CPoint(1, 2), CSize(3, 4)), CRect(1, 2, 4, 6));
+}
+
+TEST(CRect, CenterPointTruncatesTowardZero) {
+    EXPECT_EQ(CRect(0, 0, 5, 5).CenterPoint(), CPoint(2, 2));
+    EXPECT_EQ(CRect(-5, -5, 0, 0).CenterPoint(), CPoint(-2, -2));
+    EXPECT_EQ(CRect(-3, 1, 4, 8).CenterPoint(), CPoint(0, 4));
+}
+
+TEST(CPointAndCSize, Arithmetic) {
+    CPoint p(3, 4);
+    EXPECT_EQ(p - CPoint(1, 1), CSize(2, 3)); // two points differ by an extent
+    EXPECT_EQ(p + CSize(1, 1), CPoint(4, 5));
+    EXPECT_EQ(p - CSize(1, 1), CPoint(2, 3));
+    EXPECT_EQ(-p, CPoint(-3, -4));
+    p += CPoint(1, 1);
+    p -= CSize(2, 2);
+    EXPECT_EQ(p, CPoint(2, 3));
+    EXPECT_EQ(CSize(1, 2) + CSize(3, 4), CSize(4, 6));
+    EXPECT_EQ(-CSize(1, 2), CSize(-1, -2));
+    EXPECT_EQ(CSize(1, 1) + CPoint(2, 2), CPoint(3, 3));
+    // Packed coordinates (as in mouse messages) are signed 16-bit words.
+    EXPECT_EQ(CPoint(static_cast<DWORD>(0xFFFF0001u)), CPoint(1, -1));
+    EXPECT_EQ(CSize(static_cast<DWORD>(0x0002FFFEu)), CSize(-2, 2));
+}
+
+} // namespace

@@ -1,0 +1,202 @@
+#include "framework/Map.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <vector>
+
+namespace {
+
+// A window-handle-like key: a pointer to an opaque struct.
+struct Handle__;
+typedef Handle__* HANDLE_T;
+
+HANDLE_T H(UINT_PTR v) {
+    return reinterpret_cast<HANDLE_T>(v);
+}
+
+typedef CMap<HANDLE_T, HANDLE_T&, int, int> HandleMap;
+
+template <class M, class K, class V> std::vector<K> KeysInOrder(const M& map) {
+    std::vector<K> keys;
+    POSITION pos = map.GetStartPosition();
+    while (pos != nullptr) {
+        K key{};
+        V value{};
+        map.GetNextAssoc(pos, key, value);
+        keys.push_back(key);
+    }
+    return keys;
+}
+
+std::vector<HANDLE_T> HandleKeys(const HandleMap& m) {
+    return KeysInOrder<HandleMap, HANDLE_T, int>(m);
+}
+
+// ---- buckets and iteration order ---------------------------------------------
+
+TEST(CMap, BucketIsTheKeyShiftedRightByFourModuloSeventeen) {
+    HandleMap m;
+    HANDLE_T a = H(0x10), b = H(0x20), c = H(0x110); // buckets 1, 2 and 17 % 17 = 0
+    m[a] = 1;
+    m[b] = 2;
+    m[c] = 3;
+    EXPECT_EQ(m.GetHashTableSize(), 17u);
+    EXPECT_EQ(HandleKeys(m), (std::vector<HANDLE_T>{c, a, b}));
+}
+
+TEST(CMap, NewestKeyOfABucketComesFirst) {
+    HandleMap m;
+    HANDLE_T a = H(0x10), b = H(0x120), c = H(0x230); // all in bucket 1
+    m[a] = 1;
+    m[b] = 2;
+    m[c] = 3;
+    EXPECT_EQ(HandleKeys(m), (std::vector<HANDLE_T>{c, b, a}));
+    EXPECT_TRUE(m.RemoveKey(b));
+    EXPECT_EQ(HandleKeys(m), (std::vector<HANDLE_T>{c, a}));
+    int v = 0;
+    EXPECT_TRUE(m.Lookup(a, v));
+    EXPECT_EQ(v, 1);
+    EXPECT_FALSE(m.Lookup(b, v));
+}
+
+TEST(CMap, KeysWithTheSameHashStayApart) {
+    // 0x10 .. 0x1F all hash to 1: only the key comparison tells them apart.
+    HandleMap m;
+    for (UINT_PTR k = 0x10; k < 0x20; ++k) {
+        HANDLE_T h = H(k);
+        m[h] = static_cast<int>(k);
+    }
+    EXPECT_EQ(m.GetCount(), 16);
+    for (UINT_PTR k = 0x10; k < 0x20; ++k) {
+        HANDLE_T h = H(k);
+        int v = -1;
+        SCOPED_TRACE(k);
+        EXPECT_TRUE(m.Lookup(h, v));
+        EXPECT_EQ(v, static_cast<int>(k));
+    }
+}
+
+TEST(CMap, InitHashTableSetsTheBucketCountAndKeepsEntries) {
+    CMap<int, int, int, int> m;
+    m.InitHashTable(5);
+    EXPECT_EQ(m.GetHashTableSize(), 5u);
+    for (int k : {0x40, 0x10, 0x30}) // hashes 4, 1, 3
+        m[k] = k;
+    EXPECT_EQ((KeysInOrder<CMap<int, int, int, int>, int, int>(m)),
+              (std::vector<int>{0x10, 0x30, 0x40}));
+
+    m.InitHashTable(2); // on a filled map: redistributed, nothing lost
+    EXPECT_EQ(m.GetHashTableSize(), 2u);
+    EXPECT_EQ(m.GetCount(), 3);
+    for (int k : {0x40, 0x10, 0x30}) {
+        int v = 0;
+        EXPECT_TRUE(m.Lookup(k, v)) << k;
+        EXPECT_EQ(v, k);
+    }
+    m.InitHashTable(0); // ignored
+    EXPECT_EQ(m.GetHashTableSize(), 2u);
+}
+
+// ---- changes -------------------------------------------------------------------
+
+TEST(CMap, RemovingTheReturnedKeyWhileIteratingVisitsEveryKeyOnce) {
+    HandleMap m;
+    std::map<HANDLE_T, int> seen;
+    for (UINT_PTR k = 1; k <= 60; ++k) {
+        HANDLE_T h = H(k * 0x18); // spreads over buckets, several per bucket
+        m[h] = static_cast<int>(k);
+    }
+    POSITION pos = m.GetStartPosition();
+    while (pos != nullptr) {
+        HANDLE_T key = nullptr;
+        int value = 0;
+        m.GetNextAssoc(pos, key, value);
+        ++seen[key];
+        EXPECT_TRUE(m.RemoveKey(key));
+    }
+    EXPECT_EQ(seen.size(), 60u);
+    for (const auto& [key, count] : seen)
+        EXPECT_EQ(count, 1) << key;
+    EXPECT_TRUE(m.IsEmpty());
+    EXPECT_EQ(m.GetStartPosition(), nullptr);
+}
+
+TEST(CMap, SetAtOverwritesAndOperatorIndexAddsZero) {
+    CMap<int, int, CString, const CString&> m;
+    m.SetAt(1, u"one");
+    m.SetAt(1, u"uno");
+    EXPECT_EQ(m.GetCount(), 1);
+    EXPECT_EQ(m[1], u"uno");
+    EXPECT_TRUE(m[2].IsEmpty()); // added, empty
+    EXPECT_EQ(m.GetCount(), 2);
+
+    CMap<int, int, void*, void*> pointers;
+    EXPECT_EQ(pointers[-5], nullptr); // negative keys hash too
+    EXPECT_FALSE(pointers.RemoveKey(7));
+    EXPECT_TRUE(pointers.RemoveKey(-5));
+    EXPECT_FALSE(pointers.RemoveKey(-5));
+}
+
+TEST(CMap, LargeMapAgreesWithAReferenceMap) {
+    CMap<UINT, UINT, UINT, UINT> m;
+    std::map<UINT, UINT> ref;
+    UINT x = 12345;
+    for (int i = 0; i < 3000; ++i) {
+        x = x * 1103515245u + 12345u;
+        const UINT key = (x >> 8) % 2000;
+        if (x & 0x10000) {
+            m[key] = x;
+            ref[key] = x;
+        } else {
+            EXPECT_EQ(m.RemoveKey(key) != FALSE, ref.erase(key) == 1) << key;
+        }
+    }
+    EXPECT_EQ(m.GetCount(), static_cast<INT_PTR>(ref.size()));
+    for (const auto& [key, value] : ref) {
+        UINT v = 0;
+        ASSERT_TRUE(m.Lookup(key, v)) << key;
+        EXPECT_EQ(v, value);
+    }
+    std::map<UINT, UINT> iterated;
+    for (const auto* p = m.PGetFirstAssoc(); p != nullptr; p = m.PGetNextAssoc(p))
+        iterated[p->key] = p->value;
+    EXPECT_EQ(iterated, ref);
+    m.RemoveAll();
+    EXPECT_TRUE(m.IsEmpty());
+    m[3] = 4; // usable again after RemoveAll
+    EXPECT_EQ(m.GetCount(), 1);
+}
+
+TEST(CMap, StringKeysCompareByContentAndCase) {
+    CMap<CString, const CString&, int, int> m;
+    m[CString(u"Motor")] = 1;
+    m[CString(u"motor")] = 2;
+    m[CString(u"Mo") + u"tor"] = 3;
+    EXPECT_EQ(m.GetCount(), 2);
+    int v = 0;
+    EXPECT_TRUE(m.Lookup(CString(u"Motor"), v));
+    EXPECT_EQ(v, 3);
+    const auto* pair = m.PLookup(CString(u"motor"));
+    ASSERT_NE(pair, nullptr);
+    EXPECT_EQ(pair->value, 2);
+    EXPECT_EQ(m.PLookup(CString(u"MOTOR")), nullptr);
+}
+
+TEST(CMap, EmptyMapAndNullPositionsGiveClearResults) {
+    HandleMap m;
+    EXPECT_EQ(m.GetStartPosition(), nullptr);
+    EXPECT_EQ(m.PGetFirstAssoc(), nullptr);
+    HANDLE_T h = H(0x40);
+    int v = 9;
+    EXPECT_FALSE(m.Lookup(h, v));
+    EXPECT_EQ(v, 9);
+    EXPECT_FALSE(m.RemoveKey(h));
+    POSITION pos = nullptr;
+    HANDLE_T key = H(1);
+    m.GetNextAssoc(pos, key, v);
+    EXPECT_EQ(key, H(1));
+    EXPECT_EQ(v, 9);
+}
+
+} // namespace
