@@ -1,0 +1,21 @@
+// Resource numbers of vulib.dll. Components load these through the
+// resource chain (the host's executable first) or from the library's own
+// module (VuGetInstanceHandle).
+#pragma once
+
+// Fatal-error prompts
+#define IDS_VU_FATAL_ERROR 2002
+#define IDS_VU_APPLICATION_TERMINATE 2003
+// Condition dialog label
+#define IDS_VU_CONDITION 2004
+// Message box button captions
+#define IDS_VU_OK 2007
+#define IDS_VU_CANCEL 2008
+#define IDS_VU_HELP 2009
+#define IDS_VU_YES 2010
+#define IDS_VU_NO 2011
+#define IDS_VU_CLOSE 2012
+#define IDS_VU_RETRY 2013
+#define IDS_VU_ABORT 2014
+#define IDS_VU_IGNORE 2015
+#define IDS_VU_UNKNOWN 2016
