@@ -418,9 +418,26 @@ int Self::FindRegularExp(const char16_t* pattern, int start) {
     return m_selectionStart;
 }
 
+// Replace-all on a plain copy, which replaces in one pass where going
+// through our ReplaceAt would copy the whole text for every occurrence. The
+// state afterwards is the one the last ReplaceAt would leave: the text
+// re-assigned, or nothing changed when nothing was found. The copy carries
+// the regular-expression state back.
+template <class Operation> int Self::ReplaceAllInOnePass(Operation replace) {
+    VU_CSearchableString plain(static_cast<const VU_CSearchableString&>(*this));
+    const int count = replace(plain);
+    VU_CSearchableString::operator=(plain);
+    if (count > 0)
+        ReassignText();
+    return count;
+}
+
 int Self::FindReplaceRegularExp(const char16_t* pattern, const char16_t* replacement, BOOL all) {
     SoftLineBreaksOut out(*this);
-    const int count = VU_CSearchableString::FindReplaceRegularExp(pattern, replacement, all);
+    const int count = all ? ReplaceAllInOnePass([&](VU_CSearchableString& plain) {
+        return plain.FindReplaceRegularExp(pattern, replacement, all);
+    })
+                          : VU_CSearchableString::FindReplaceRegularExp(pattern, replacement, all);
     SetSelection(GetLength(), GetLength());
     return count;
 }
@@ -428,7 +445,9 @@ int Self::FindReplaceRegularExp(const char16_t* pattern, const char16_t* replace
 int Self::FindReplace(const char16_t* find, const char16_t* replacement, BOOL all, BOOL wholeWord) {
     SoftLineBreaksOut out(*this);
     if (all) {
-        const int count = VU_CSearchableString::FindReplace(find, replacement, all, wholeWord);
+        const int count = ReplaceAllInOnePass([&](VU_CSearchableString& plain) {
+            return plain.FindReplace(find, replacement, all, wholeWord);
+        });
         SetSelection(GetLength(), GetLength());
         return count;
     }
@@ -441,8 +460,9 @@ int Self::FindReplaceNoCase(const char16_t* find, const char16_t* replacement, B
                             BOOL wholeWord) {
     SoftLineBreaksOut out(*this);
     if (all) {
-        const int count =
-            VU_CSearchableString::FindReplaceNoCase(find, replacement, all, wholeWord);
+        const int count = ReplaceAllInOnePass([&](VU_CSearchableString& plain) {
+            return plain.FindReplaceNoCase(find, replacement, all, wholeWord);
+        });
         SetSelection(GetLength(), GetLength());
         return count;
     }

@@ -142,6 +142,7 @@ private:
     // Keeps the break positions with the text when [first, end) becomes
     // insertedLength characters (positions of the text without breaks).
     void MoveBreaksForEdit(int first, int end, int insertedLength);
+    template <class Operation> int ReplaceAllInOnePass(Operation replace);
 
     BOOL m_breaksReplaced;             // TRUE while m_replacement stands at the breaks
     CString m_replacement;             // what stands at the breaks now

@@ -1,0 +1,165 @@
+// Random edit and search sequences on a string with soft line breaks, over
+// random texts and wrap widths. Besides crashes, leaks and hangs it checks
+// that taking the breaks out and putting them back gives the text back.
+#include "text/SearchableStringWithSoftLineBreaks.h"
+
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+using Soft = VU_CSearchableStringWithSoftLineBreaks;
+
+// Characters that matter here: breaks, blanks, delimiters, case pairs, and a
+// few that regular expressions treat specially.
+constexpr char16_t kAlphabet[] = {u'a', u'b', u'A', u' ', u' ',  u'\t', u'\r', u'\n', u'\r',
+                                  u'_', u',', u'(', u')', u'.',  u'*',  u'+',  u'?',  u'^',
+                                  u'$', u'[', u']', u'|', u'\\', 0xE9,  0x130, 0};
+
+constexpr int kMaxLength = 4096; // keeps one-replacement-at-a-time edits quick
+
+std::u16string Text(FuzzedDataProvider& in, std::size_t maxLength) {
+    std::u16string text;
+    const std::size_t length = in.ConsumeIntegralInRange<std::size_t>(0, maxLength);
+    for (std::size_t i = 0; i < length && in.remaining_bytes() > 0; ++i) {
+        const char16_t c =
+            kAlphabet[in.ConsumeIntegralInRange<std::size_t>(0, std::size(kAlphabet) - 1)];
+        if (c == 0)
+            text += u"\r\r\n"; // a soft break typed into the text
+        else
+            text.push_back(c);
+    }
+    return text;
+}
+
+int Position(FuzzedDataProvider& in, const Soft& s) {
+    return in.ConsumeIntegralInRange<int>(-3, s.GetLength() + 3);
+}
+
+void Require(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+// Right after wrapping the breaks are in: out and back in is an identity.
+void CheckRoundTrip(Soft& s) {
+    const std::u16string wrapped = s.Str();
+    const int breaks = s.RemoveSoftLineBreaks();
+    Require(s.WereSoftLineBreaksRemoved());
+    Require(s.ReInsertSoftLineBreaks() == breaks);
+    Require(s.Str() == wrapped);
+}
+
+void Step(FuzzedDataProvider& in, Soft& s) {
+    const std::u16string a = Text(in, 4);
+    const std::u16string b = Text(in, 4);
+    const BOOL flag = in.ConsumeBool();
+    switch (in.ConsumeIntegralInRange(0, 26)) {
+    case 0: {
+        const int breaks = s.WordWrapText(in.ConsumeIntegralInRange(-3, 40));
+        Require(breaks == s.GetNumberOfSoftLineBreaks(s.GetLength() + 1));
+        CheckRoundTrip(s);
+        break;
+    }
+    case 1:
+        s.RemoveSoftLineBreaks();
+        break;
+    case 2:
+        s.ReInsertSoftLineBreaks();
+        break;
+    case 3:
+        s.ReplaceSoftLineBreaksWith(CString(a));
+        break;
+    case 4:
+        s.SetSelection(Position(in, s), Position(in, s));
+        break;
+    case 5:
+        s.ReplaceSelectionWith(CString(a));
+        break;
+    case 6:
+        s.Find(a.c_str(), Position(in, s), flag);
+        break;
+    case 7:
+        s.Find(a.empty() ? u'a' : a[0], Position(in, s), flag);
+        break;
+    case 8:
+        s.FindNoCase(a.c_str(), Position(in, s), flag);
+        break;
+    case 9:
+        s.FindNoCase(a.empty() ? u'A' : a[0], Position(in, s), flag);
+        break;
+    case 10:
+        s.ReverseFind(a.c_str(), Position(in, s), flag);
+        break;
+    case 11:
+        s.ReverseFind(a.empty() ? u'b' : a[0]);
+        break;
+    case 12:
+        s.ReverseFindNoCase(a.c_str(), Position(in, s), flag);
+        break;
+    case 13:
+        s.ReverseFindNoCase(a.empty() ? u'B' : a[0], Position(in, s), flag);
+        break;
+    case 14:
+        s.FindN(a.empty() ? u' ' : a[0], Position(in, s), Position(in, s), flag);
+        break;
+    case 15:
+        s.FindRegularExp(a.c_str(), Position(in, s));
+        break;
+    case 16:
+        s.FindReplaceRegularExp(a.c_str(), b.c_str(), flag);
+        break;
+    case 17:
+        s.FindReplace(a.c_str(), b.c_str(), flag, in.ConsumeBool());
+        break;
+    case 18:
+        s.FindReplaceNoCase(a.c_str(), b.c_str(), flag, in.ConsumeBool());
+        break;
+    case 19:
+        s.InsertAt(Position(in, s), a.c_str());
+        break;
+    case 20:
+        s.InsertAt(Position(in, s), a.empty() ? u'x' : a[0]);
+        break;
+    case 21:
+        s.DeleteAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8));
+        break;
+    case 22:
+        s.ReplaceAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8), a.c_str());
+        break;
+    case 23:
+        s.GetField(a.c_str(), in.ConsumeIntegralInRange(-1, 5));
+        s.GetFieldCount(a.empty() ? u',' : a[0]);
+        break;
+    case 24:
+        s.GetDelimitedField(a.c_str(), b.c_str(), in.ConsumeIntegralInRange(-1, 3));
+        break;
+    case 25: {
+        Soft copy(s);
+        Require(copy.Str() == s.Str() &&
+                copy.WereSoftLineBreaksRemoved() == s.WereSoftLineBreaksRemoved());
+        s = copy;
+        break;
+    }
+    default:
+        s = CString(a);
+        break;
+    }
+    if (s.GetLength() > kMaxLength)
+        s = CString(s.View().substr(0, 64));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    FuzzedDataProvider in(data, size);
+    Soft s{CString(Text(in, 200))};
+    s.WordWrapText(in.ConsumeIntegralInRange(-1, 30));
+    CheckRoundTrip(s);
+    for (int step = 0; step < 48 && in.remaining_bytes() > 0; ++step)
+        Step(in, s);
+    return 0;
+}
