@@ -85,7 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         attributes.clear();
     };
     for (int steps = 0; steps < 200 && !in.Empty(); ++steps) {
-        const std::u16string before = w.GetOutput();
+        const std::u16string before(w.GetOutput());
         const size_t closer = tagOpen ? 1 : 0; // the '>' that content adds first
         bool ok = true;
         switch (in.Byte() % 10) {
@@ -112,7 +112,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         case 2: {
             const AF_GString text = in.Text();
             w.WriteElementString(text);
-            Check(Unescape(w.GetOutput().substr(before.size() + closer)) == text);
+            Check(Unescape(std::u16string(w.GetOutput().substr(before.size() + closer))) == text);
             closesTag();
             break;
         }

@@ -61,8 +61,8 @@ public:
     bool CloseOpenedElement();
 
     // Attributes
-    // The output so far, without a copy.
-    const std::u16string& GetOutput() const { return m_output; }
+    // The output so far, without a copy; valid until the next write.
+    std::u16string_view GetOutput() const { return m_output.View(); }
     int GetOpenElementCount() const { return static_cast<int>(m_elements.size()); }
     bool IsStartTagOpen() const { return m_startTagOpen; }
 
@@ -76,6 +76,32 @@ protected:
     bool ValidateAttributeString(const AF_GString& value) const;
 
 private:
+    // The output text. It only ever grows at its end, and realloc lets a
+    // large buffer grow in place.
+    class Buffer {
+    public:
+        Buffer() = default;
+        Buffer(const Buffer& other);
+        Buffer& operator=(const Buffer& other);
+        ~Buffer();
+        // Room for n more characters at the end, counted as written.
+        char16_t* Extend(size_t n) {
+            if (n > m_capacity - m_size)
+                Grow(n);
+            char16_t* end = m_data + m_size;
+            m_size += n;
+            return end;
+        }
+        void Append(std::u16string_view text);
+        std::u16string_view View() const { return {m_data, m_size}; }
+
+    private:
+        void Grow(size_t n);
+        char16_t* m_data = nullptr;
+        size_t m_size = 0;
+        size_t m_capacity = 0;
+    };
+
     // A name already written to the output, kept as its place there: the
     // output is only ever appended to, so the place stays valid.
     struct Span {
@@ -84,18 +110,18 @@ private:
     };
 
     static bool IsValidName(std::u16string_view name);
-    static void AppendEscaped(std::u16string& out, std::u16string_view text);
+    template <typename Sink> static void AppendEscaped(Sink& out, std::u16string_view text);
     std::u16string_view Text(Span span) const {
-        return {m_output.data() + span.offset, span.length};
+        return m_output.View().substr(span.offset, span.length);
     }
-    void AppendOwnText(Span span);
+    void WriteEndTag(Span name);
     bool HasAttribute(std::u16string_view name) const;
     void RememberAttribute(Span span);
     void ForgetAttributes();
 
     unsigned int m_attributeCount = 0;
     bool m_startTagOpen = false;
-    std::u16string m_output;
+    Buffer m_output;
     std::vector<Span> m_elements;   // open elements, innermost last
     std::vector<Span> m_attributes; // names on the open start tag
     // Index of the same names, built only when a tag has many attributes.
