@@ -1,0 +1,246 @@
+// The regular-expression engine against PCRE2's 16-bit library as an oracle,
+// over generated patterns and texts. Patterns are translated to PCRE2's
+// syntax: every literal as \x{...} (so nothing is read as an escape class or
+// a quantifier), sets expanded member by member, `$` with DOLLAR_ENDONLY and
+// `.` with DOTALL. In that subset both engines are leftmost, greedy,
+// first-alternative-first backtrackers that keep the last iteration's groups,
+// so position, length and every group must agree.
+#define PCRE2_CODE_UNIT_WIDTH 16
+#include <pcre2.h>
+
+#include "text/RegExpression.h"
+
+#include "../RegExpressionPatterns.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::string Show(std::u16string_view s) {
+    std::string out;
+    for (char16_t c : s) {
+        if (c >= 0x20 && c < 0x7F) {
+            out.push_back(static_cast<char>(c));
+        } else {
+            char buf[8];
+            std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
+            out += buf;
+        }
+    }
+    return out;
+}
+
+void AppendCodeUnit(std::u16string& out, char16_t c) {
+    char buf[16];
+    std::snprintf(buf, sizeof buf, "\\x{%x}", unsigned(c));
+    for (const char* p = buf; *p; ++p)
+        out += char16_t(*p);
+}
+
+// Translates a pattern that our engine accepted.
+std::u16string ToPcre2(const std::u16string& p) {
+    std::u16string out;
+    size_t i = 0;
+    while (i < p.size()) {
+        const char16_t c = p[i++];
+        switch (c) {
+        case u'^':
+        case u'$':
+            // PCRE2 does not quantify a bare assertion (our `^?` is valid).
+            out += u"(?:";
+            out += c;
+            out += u')';
+            break;
+        case u'.':
+        case u'(':
+        case u')':
+        case u'|':
+        case u'*':
+        case u'+':
+        case u'?':
+            out += c;
+            break;
+        case u'\\':
+            AppendCodeUnit(out, p[i++]);
+            break;
+        case u'[': {
+            out += u'[';
+            if (p[i] == u'^') {
+                out += u'^';
+                ++i;
+            }
+            std::vector<char16_t> members;
+            if (p[i] == u']' || p[i] == u'-')
+                members.push_back(p[i++]);
+            while (i < p.size() && p[i] != u']') {
+                if (p[i] != u'-') {
+                    members.push_back(p[i++]);
+                    continue;
+                }
+                ++i;
+                if (i >= p.size() || p[i] == u']') {
+                    members.push_back(u'-');
+                    continue;
+                }
+                for (unsigned m = unsigned(p[i - 2]) + 1; m <= p[i]; ++m)
+                    members.push_back(char16_t(m));
+                ++i;
+            }
+            ++i; // ']'
+            for (char16_t m : members)
+                AppendCodeUnit(out, m);
+            out += u']';
+            break;
+        }
+        default:
+            AppendCodeUnit(out, c);
+            break;
+        }
+    }
+    return out;
+}
+
+struct Pcre2Code {
+    pcre2_code_16* code = nullptr;
+    pcre2_match_data_16* data = nullptr;
+    explicit Pcre2Code(const std::u16string& pattern) {
+        int error = 0;
+        PCRE2_SIZE offset = 0;
+        code = pcre2_compile_16(reinterpret_cast<PCRE2_SPTR16>(pattern.c_str()), pattern.size(),
+                                PCRE2_DOLLAR_ENDONLY | PCRE2_DOTALL, &error, &offset, nullptr);
+        if (code)
+            data = pcre2_match_data_create_from_pattern_16(code, nullptr);
+    }
+    ~Pcre2Code() {
+        pcre2_match_data_free_16(data);
+        pcre2_code_free_16(code);
+    }
+    // Group n as (start, end), (-1, -1) when unset; rc <= 0: no match.
+    int Match(const std::u16string& text, std::pair<int, int> groups[10]) {
+        const int rc = pcre2_match_16(code, reinterpret_cast<PCRE2_SPTR16>(text.c_str()),
+                                      text.size(), 0, 0, data, nullptr);
+        const PCRE2_SIZE* ov = pcre2_get_ovector_pointer_16(data);
+        for (int n = 0; n < 10; ++n) {
+            groups[n] = {-1, -1};
+            if (n < rc && ov[2 * n] != PCRE2_UNSET)
+                groups[n] = {int(ov[2 * n]), int(ov[2 * n + 1])};
+        }
+        return rc;
+    }
+};
+
+// What GetReplaceString should give for `templ` with these groups.
+std::u16string Expand(const std::u16string& text, const std::pair<int, int> groups[10],
+                      std::u16string_view templ) {
+    std::u16string out;
+    for (size_t i = 0; i < templ.size();) {
+        const char16_t c = templ[i++];
+        int n = -1;
+        if (c == u'&')
+            n = 0;
+        else if (c == u'\\' && i < templ.size() && templ[i] >= u'0' && templ[i] <= u'9')
+            n = templ[i++] - u'0';
+        if (n < 0) {
+            if (c == u'\\' && i < templ.size() && (templ[i] == u'\\' || templ[i] == u'&'))
+                out += templ[i++];
+            else
+                out += c;
+        } else if (groups[n].first >= 0 && groups[n].second > groups[n].first) {
+            out += text.substr(size_t(groups[n].first), size_t(groups[n].second - groups[n].first));
+        }
+    }
+    return out;
+}
+
+TEST(RegExpressionPcre2, TranslationOfSetsAndEscapes) {
+    EXPECT_EQ(Show(ToPcre2(u"[]a-c]")), "[\\x{5d}\\x{61}\\x{62}\\x{63}]");
+    EXPECT_EQ(Show(ToPcre2(u"[^-\\]")), "[^\\x{2d}\\x{5c}]");
+    EXPECT_EQ(Show(ToPcre2(u"\\d{2}")), "\\x{64}\\x{7b}\\x{32}\\x{7d}");
+    EXPECT_EQ(Show(ToPcre2(u"(a|b)*$")), "(\\x{61}|\\x{62})*(?:$)");
+    EXPECT_EQ(Show(ToPcre2(u"^?a")), "(?:^)?\\x{61}");
+}
+
+TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
+    RegExpressionPatternGenerator gen(0x5eed2024);
+    const std::u16string templ = u"<&|\\1|\\2\\\\\\&>";
+    int compared = 0, matched = 0, withGroups = 0, failures = 0;
+    for (int i = 0; i < 8000 && failures < 10; ++i) {
+        const std::u16string pattern = gen.Pattern();
+        VU_CRegExpression re;
+        if (!re.RegComp(pattern.c_str()))
+            continue;
+        const std::u16string translated = ToPcre2(pattern);
+        Pcre2Code oracle(translated);
+        if (!oracle.code) {
+            ++failures; // the translation must cover every accepted pattern
+            ADD_FAILURE() << "PCRE2 rejects " << Show(translated) << " from " << Show(pattern);
+            continue;
+        }
+        for (int t = 0; t < 6; ++t) {
+            const std::u16string text = gen.Text(14);
+            std::pair<int, int> expected[10];
+            const int rc = oracle.Match(text, expected);
+            const int found = re.RegFind(text.c_str());
+            ++compared;
+            std::string diff;
+            if (found != (rc > 0 ? expected[0].first : -1))
+                diff = "index " + std::to_string(found) + ", PCRE2 " +
+                       std::to_string(rc > 0 ? expected[0].first : -1);
+            for (int n = 0; n < 10 && rc > 0 && diff.empty(); ++n)
+                if (re.GetGroupStart(n) != expected[n].first ||
+                    re.GetGroupEnd(n) != expected[n].second)
+                    diff = "group " + std::to_string(n) + " (" +
+                           std::to_string(re.GetGroupStart(n)) + "," +
+                           std::to_string(re.GetGroupEnd(n)) + "), PCRE2 (" +
+                           std::to_string(expected[n].first) + "," +
+                           std::to_string(expected[n].second) + ")";
+            if (rc > 0 && diff.empty()) {
+                std::unique_ptr<char16_t[]> replaced(re.GetReplaceString(templ.c_str()));
+                const std::u16string want = Expand(text, expected, templ);
+                if (!replaced || replaced.get() != want)
+                    diff = "replacement " + (replaced ? Show(replaced.get()) : "null") +
+                           ", expected " + Show(want);
+            }
+            if (!diff.empty()) {
+                ++failures;
+                ADD_FAILURE() << "case " << i << ": pattern " << Show(pattern) << " (PCRE2 "
+                              << Show(translated) << ") on " << Show(text) << ": " << diff;
+            }
+            matched += rc > 0;
+            withGroups += rc > 1;
+        }
+    }
+    EXPECT_GT(compared, 20000);
+    EXPECT_GT(matched, compared / 5);
+    EXPECT_GT(withGroups, compared / 20);
+}
+
+// Longer subjects: the search hints and the scans must not change a result.
+TEST(RegExpressionPcre2, AgreesOnLongerTexts) {
+    RegExpressionPatternGenerator gen(77);
+    const char16_t* patterns[] = {u"abc",   u"x*abc",      u"[ab]+c", u"(ab|ba)+d",
+                                  u"a|b|c", u"[^ab]+",     u"c.*d$",  u"^a*b",
+                                  u"(a)+",  u"bcd|abd|dd", u"a-]\\.", u"[]a]+d"};
+    for (const char16_t* pattern : patterns) {
+        VU_CRegExpression re;
+        ASSERT_NE(re.RegComp(pattern), nullptr) << Show(pattern);
+        Pcre2Code oracle(ToPcre2(pattern));
+        ASSERT_NE(oracle.code, nullptr);
+        for (int t = 0; t < 200; ++t) {
+            const std::u16string text = gen.Text(300);
+            std::pair<int, int> expected[10];
+            const int rc = oracle.Match(text, expected);
+            SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
+            ASSERT_EQ(re.RegFind(text.c_str()), rc > 0 ? expected[0].first : -1);
+            if (rc > 0) {
+                ASSERT_EQ(re.GetFindLen(), expected[0].second - expected[0].first);
+            }
+        }
+    }
+}
+
+} // namespace
