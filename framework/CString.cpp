@@ -781,7 +781,11 @@ CString& CString::TrimRight(const char16_t* set) {
 
 // ---- formatting ------------------------------------------------------------
 
-void CString::Format(const char16_t* format, ...) {
+const char16_t* vu::detail::FormatArg(const CString& s) {
+    return s.GetString();
+}
+
+void CString::FormatList(const char16_t* format, ...) {
     va_list args;
     va_start(args, format);
     FormatV(format, args);
@@ -794,7 +798,7 @@ void CString::FormatV(const char16_t* format, va_list args) {
     m_str.swap(out);
 }
 
-void CString::AppendFormat(const char16_t* format, ...) {
+void CString::AppendFormatList(const char16_t* format, ...) {
     va_list args;
     va_start(args, format);
     AppendFormatV(format, args);

@@ -10,6 +10,21 @@
 #include <string_view>
 #include <type_traits>
 
+class CString;
+
+namespace vu::detail {
+// What Format passes on for each argument: strings as their pointers,
+// scalars (numbers, pointers, enums) and arrays as they are.
+const char16_t* FormatArg(const CString& s);
+inline const char16_t* FormatArg(const std::u16string& s) {
+    return s.c_str();
+}
+template <class T>
+requires(std::is_scalar_v<T> || std::is_array_v<T>) const T& FormatArg(const T& v) {
+    return v;
+}
+} // namespace vu::detail
+
 class CString {
 public:
     // Construction
@@ -27,6 +42,7 @@ public:
     CString& operator=(const char16_t* psz);
     CString& operator=(char16_t ch);
     CString& operator=(std::u16string_view sv);
+    CString& operator=(const std::u16string& s) { return *this = std::u16string_view(s); }
     ~CString() = default;
 
     // Attributes
@@ -61,6 +77,7 @@ public:
     CString& operator+=(const char16_t* psz);
     CString& operator+=(char16_t ch);
     CString& operator+=(std::u16string_view sv);
+    CString& operator+=(const std::u16string& s) { return *this += std::u16string_view(s); }
     void Append(const char16_t* psz) { *this += psz; }
     void Append(const char16_t* pch, int length);
     void AppendChar(char16_t ch) { m_str.push_back(ch); }
@@ -117,13 +134,21 @@ public:
     // the length modifiers h hh l ll I I32 I64 z j t. %s and %ls take a
     // const char16_t* ("(null)" for a null pointer), %hs a const char*, %c
     // and %lc a char16_t (passed as int). Unknown conversions are copied as
-    // they are.
-    void Format(const char16_t* format, ...);
+    // they are. A CString or std::u16string argument is passed as its
+    // character pointer, so it may be given directly for %s; any other class
+    // type is rejected at compile time instead of corrupting the arguments.
+    template <class... Args> void Format(const char16_t* format, const Args&... args) {
+        FormatList(format, vu::detail::FormatArg(args)...);
+    }
+    template <class... Args> void AppendFormat(const char16_t* format, const Args&... args) {
+        AppendFormatList(format, vu::detail::FormatArg(args)...);
+    }
     void FormatV(const char16_t* format, va_list args);
-    void AppendFormat(const char16_t* format, ...);
     void AppendFormatV(const char16_t* format, va_list args);
 
 private:
+    void FormatList(const char16_t* format, ...);
+    void AppendFormatList(const char16_t* format, ...);
     static int ToIndex(long long i) { return i < 0 || i > 0x7FFFFFFF ? -1 : static_cast<int>(i); }
 
     std::u16string m_str;

@@ -132,6 +132,20 @@ TEST(CStringFormat, AppendFormatAndFormattingFromItself) {
     EXPECT_EQ(std::u16string(s.View()), u"ab-ab+ab-ab");
 }
 
+struct DerivedString : std::u16string {
+    using std::u16string::basic_string;
+};
+
+TEST(CStringFormat, StringObjectsArePassedAsTheirText) {
+    const CString name(u"Motor");
+    const DerivedString unit(u"rpm");
+    CString s;
+    s.Format(u"%s=%d %s", name, 1500, unit);
+    EXPECT_EQ(std::u16string(s.View()), u"Motor=1500 rpm");
+    s.AppendFormat(u" (%s)", s);
+    EXPECT_EQ(std::u16string(s.View()), u"Motor=1500 rpm (Motor=1500 rpm)");
+}
+
 TEST(CStringFormat, HugeWidthsAreCappedNotAllocated) {
     const std::u16string out = Fmt(u"%999999999999d", 1);
     EXPECT_LE(out.size(), 2u * 1024 * 1024);

@@ -303,6 +303,21 @@ TEST(CString, OperatorsCombineStringsPointersAndCharacters) {
     EXPECT_FALSE(CString(u"\u00E4") < CString(u"z"));
 }
 
+TEST(CString, StandardStringsAndDerivedOnesConvertWithoutAmbiguity) {
+    struct Derived : std::u16string {
+        using std::u16string::basic_string;
+    };
+    const std::u16string plain(u"std");
+    const Derived derived(u"derived");
+    CString s = plain;
+    s += derived;
+    s += plain;
+    EXPECT_EQ(S(s), u"stdderivedstd");
+    s = derived;
+    EXPECT_EQ(S(s), u"derived");
+    EXPECT_TRUE(s == CString(derived));
+}
+
 TEST(CString, HashesEqualContentAlike) {
     std::unordered_set<CString> set;
     set.insert(CString(u"alpha"));
