@@ -21,7 +21,9 @@ set(VULIB_WIN32_LIBS user32 gdi32 comctl32 msimg32 ole32 oleaut32 uuid advapi32 
     shlwapi uxtheme)
 target_link_libraries(vulib PRIVATE -Wl,--whole-archive ${VULIB_CORE_LIBS} -Wl,--no-whole-archive
                                     ${VULIB_WIN32_LIBS})
-target_link_options(vulib PRIVATE -static -Wl,--export-all-symbols)
+# libgcc_eh is linked statically into every module: exporting its unwinder
+# from the DLL would clash with the executables' own copy.
+target_link_options(vulib PRIVATE -static -Wl,--export-all-symbols -Wl,--exclude-libs,libgcc_eh.a)
 set_property(TARGET vulib APPEND PROPERTY LINK_DEPENDS ${VULIB_RC})
 
 # Test and demo executables carry their runtime with them so Wine finds no

@@ -79,6 +79,15 @@ std::string Show(const Split& s) {
            " fname=" + Show(s.fname) + " ext=" + Show(s.ext);
 }
 
+// Concatenates in order (the pieces are drawn left to right, so the
+// generated paths do not depend on the compiler's evaluation order).
+std::u16string Cat(std::initializer_list<std::u16string> parts) {
+    std::u16string out;
+    for (const auto& part : parts)
+        out.append(part);
+    return out;
+}
+
 bool Same(const Split& a, const Split& b) {
     return a.ok == b.ok && a.drive == b.drive && a.dir == b.dir && a.fname == b.fname &&
            a.ext == b.ext;
@@ -101,7 +110,7 @@ public:
                 path += Separator();
         }
         if (Pick(0, 6) == 0)
-            path = u" " + path + u" ";
+            path = Cat({u" ", path, u" "});
         return path;
     }
 
@@ -152,19 +161,19 @@ private:
         case 1:
             return u"..";
         case 2:
-            return Word(Pick(1, 8)) + u"." + Word(Pick(0, 4));
+            return Cat({Word(Pick(1, 8)), u".", Word(Pick(0, 4))});
         case 3:
-            return u"." + Word(Pick(1, 5));
+            return Cat({u".", Word(Pick(1, 5))});
         case 4:
-            return Word(Pick(1, 6)) + u".";
+            return Cat({Word(Pick(1, 6)), u"."});
         case 5:
-            return Word(Pick(1, 4)) + u"." + Word(Pick(1, 4)) + u"." + Word(Pick(0, 3));
+            return Cat({Word(Pick(1, 4)), u".", Word(Pick(1, 4)), u".", Word(Pick(0, 3))});
         case 6: // around the 255-unit part limits
             return Word(Pick(245, 262));
         case 7:
-            return Word(Pick(120, 140)) + u"." + Word(Pick(110, 140));
+            return Cat({Word(Pick(120, 140)), u".", Word(Pick(110, 140))});
         case 8:
-            return Word(Pick(1, 3)) + u"." + Word(Pick(250, 258));
+            return Cat({Word(Pick(1, 3)), u".", Word(Pick(250, 258))});
         default:
             return Word(Pick(1, 12));
         }
@@ -237,12 +246,12 @@ TEST(PathSplitDifferential, HandPickedEdgesSplitAsTheRuntimeDoes) {
         u"C:\\a\\\\b\\\\",
         u"  C:\\Work\\Project.ACD  ",
         u"a:b:c",
-        u"\\" + longPart.substr(0, 254) + u"\\f",
-        u"\\" + longPart + u"\\f",
+        Cat({u"\\", longPart.substr(0, 254), u"\\f"}),
+        Cat({u"\\", longPart, u"\\f"}),
         longPart,
-        longPart + u"n",
-        u"f." + longPart.substr(0, 254),
-        u"f." + longPart,
+        Cat({longPart, u"n"}),
+        Cat({u"f.", longPart.substr(0, 254)}),
+        Cat({u"f.", longPart}),
     };
     for (const auto& path : cases) {
         SCOPED_TRACE(Show(path));
