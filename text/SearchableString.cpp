@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <typeinfo>
+#include <vector>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -90,42 +91,70 @@ struct Needle {
     int length;
     bool noCase;
     CharClass first, last;
+    bool filterIsExact; // a candidate is already a match (exact, at most 2 units)
 
     Needle(const char16_t* t, int m, bool nc)
         : text(t), length(m), noCase(nc),
           first(nc ? CharClass::Folded(t[0]) : CharClass::Exact(t[0])),
-          last(nc ? CharClass::Folded(t[m - 1]) : CharClass::Exact(t[m - 1])) {}
+          last(nc ? CharClass::Folded(t[m - 1]) : CharClass::Exact(t[m - 1])),
+          filterIsExact(!nc && m <= 2) {}
 
     bool MatchesAt(const char16_t* s) const {
+        if (filterIsExact)
+            return true;
         if (noCase)
             return EqualLowered(s, text, length);
-        return std::memcmp(s, text, sizeof(char16_t) * static_cast<std::size_t>(length)) == 0;
+        return std::memcmp(s + 1, text + 1,
+                           sizeof(char16_t) * static_cast<std::size_t>(length - 1)) == 0;
+    }
+    bool Candidate(const char16_t* s) const {
+        return first.Accepts(s[0]) && last.Accepts(s[length - 1]);
     }
 };
 
-// First position p >= from with p + m <= n where the needle matches, or -1.
-int ScanForward(const char16_t* s, int n, int from, const Needle& nd) {
+// Calls onMatch(p) for the occurrences of the needle from `from` on, leftmost
+// first and non-overlapping (the next one begins at or after p + length),
+// until onMatch returns false. Returns the position of the last match
+// reported, or -1.
+template <class OnMatch>
+int ForEachOccurrence(const char16_t* s, int n, int from, const Needle& nd, OnMatch&& onMatch) {
     const int m = nd.length;
     const int lastStart = n - m;
+    int next = from; // no occurrence may begin before it
     int i = from;
 #if defined(__SSE2__)
     const CharClassVec first(nd.first), last(nd.last);
-    for (; i + 8 <= lastStart + 1; i += 8) {
-        const __m128i hit =
-            _mm_and_si128(first.Match(Load(s + i)), last.Match(Load(s + i + m - 1)));
-        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+    // Sixteen positions per step: the two halves' 16-bit lane masks are
+    // packed to bytes so that bit k of the mask stands for position i + k.
+    for (; i + 16 <= lastStart + 1; i += 16) {
+        const char16_t* tail = s + i + m - 1;
+        const __m128i low = _mm_and_si128(first.Match(Load(s + i)), last.Match(Load(tail)));
+        const __m128i high =
+            _mm_and_si128(first.Match(Load(s + i + 8)), last.Match(Load(tail + 8)));
+        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(low, high)));
         while (mask) {
-            const int k = __builtin_ctz(mask) / 2;
-            if (nd.MatchesAt(s + i + k))
-                return i + k;
-            mask &= ~(3u << (2 * k));
+            const int p = i + __builtin_ctz(mask);
+            mask &= mask - 1;
+            if (p >= next && nd.MatchesAt(s + p)) {
+                if (!onMatch(p))
+                    return p;
+                next = p + m;
+            }
         }
     }
 #endif
-    for (; i <= lastStart; ++i)
-        if (nd.first.Accepts(s[i]) && nd.MatchesAt(s + i))
-            return i;
+    for (i = std::max(i, next); i <= lastStart; ++i)
+        if (nd.Candidate(s + i) && nd.MatchesAt(s + i)) {
+            if (!onMatch(i))
+                return i;
+            i += m - 1;
+        }
     return -1;
+}
+
+// First position p >= from with p + m <= n where the needle matches, or -1.
+int ScanForward(const char16_t* s, int n, int from, const Needle& nd) {
+    return ForEachOccurrence(s, n, from, nd, [](int) { return false; });
 }
 
 // Last position p <= start (p + m <= n) where the needle matches, or -1.
@@ -138,17 +167,17 @@ int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
         const char16_t* block = s + i - 7;
         const __m128i hit =
             _mm_and_si128(first.Match(Load(block)), last.Match(Load(block + m - 1)));
-        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit));
+        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit)) & 0x5555u;
         while (mask) {
             const int k = (31 - __builtin_clz(mask)) / 2;
             if (nd.MatchesAt(block + k))
                 return i - 7 + k;
-            mask &= ~(3u << (2 * k));
+            mask &= ~(1u << (2 * k));
         }
     }
 #endif
     for (; i >= 0; --i)
-        if (nd.first.Accepts(s[i]) && nd.MatchesAt(s + i))
+        if (nd.Candidate(s + i) && nd.MatchesAt(s + i))
             return i;
     return -1;
 }
@@ -468,34 +497,86 @@ bool VU_CSearchableString::IsReplaceAtOverridden() const {
 #endif
 }
 
+namespace {
+
+// A replaced stretch of the text.
+struct Run {
+    int at, length;
+};
+
+// Copies n units; short runs, the common case between frequent matches, are
+// copied with two overlapping moves instead of a library call.
+inline char16_t* CopyUnits(char16_t* to, const char16_t* from, std::size_t n) {
+    if (n >= 8 && n <= 16) {
+        std::uint64_t a[2], b[2];
+        std::memcpy(a, from, 16);
+        std::memcpy(b, from + n - 8, 16);
+        std::memcpy(to, a, 16);
+        std::memcpy(to + n - 8, b, 16);
+    } else if (n >= 4 && n < 8) {
+        std::uint64_t a, b;
+        std::memcpy(&a, from, 8);
+        std::memcpy(&b, from + n - 4, 8);
+        std::memcpy(to, &a, 8);
+        std::memcpy(to + n - 4, &b, 8);
+    } else if (n < 4) {
+        for (std::size_t k = 0; k < n; ++k)
+            to[k] = from[k];
+    } else {
+        std::memcpy(to, from, n * sizeof(char16_t));
+    }
+    return to + n;
+}
+
+// Builds `text` with every run replaced by `replacement`; the runs are
+// ascending and disjoint, and runOf(k) gives the k-th of count runs. The
+// result is allocated once at its exact size. Returns false, leaving `out`
+// empty, when the result would be too long for a string.
+template <class RunOf>
+bool Rebuild(std::u16string_view text, std::size_t count, RunOf&& runOf,
+             std::u16string_view replacement, long long removed, std::u16string& out) {
+    const long long size =
+        static_cast<long long>(text.size()) - removed +
+        static_cast<long long>(count) * static_cast<long long>(replacement.size());
+    if (size > INT_MAX)
+        return false;
+    out.resize(static_cast<std::size_t>(size));
+    char16_t* to = out.data();
+    const char16_t* from = text.data();
+    std::size_t copied = 0;
+    for (std::size_t k = 0; k < count; ++k) {
+        const Run run = runOf(k);
+        to = CopyUnits(to, from + copied, run.at - copied);
+        to = CopyUnits(to, replacement.data(), replacement.size());
+        copied = static_cast<std::size_t>(run.at) + run.length;
+    }
+    CopyUnits(to, from + copied, text.size() - copied);
+    return true;
+}
+
+} // namespace
+
 // Replace-all in one pass over the text: the occurrences found are exactly
 // those the replacement-by-replacement loop finds (non-overlapping, from the
 // start, never inside inserted text), so the result is the same.
 int VU_CSearchableString::ReplaceAllInOnePass(const char16_t* find, int m,
                                               std::u16string_view replacement, bool noCase) {
-    const int n = GetLength();
-    const char16_t* s = GetString();
     std::u16string lowered;
     if (noCase)
         lowered = Lowered(find, m);
     const Needle needle(noCase ? lowered.c_str() : find, m, noCase);
+    std::vector<int> found;
+    ForEachOccurrence(GetString(), GetLength(), 0, needle, [&](int p) {
+        found.push_back(p);
+        return true;
+    });
     std::u16string out;
-    out.reserve(replacement.size() <= static_cast<std::size_t>(m) ? n : n + n / 8);
-    int copied = 0, count = 0;
-    for (int p = ScanForward(s, n, 0, needle); p >= 0; p = ScanForward(s, n, p + m, needle)) {
-        out.append(s + copied, p - copied).append(replacement);
-        copied = p + m;
-        ++count;
-        if (out.size() > static_cast<std::size_t>(INT_MAX))
-            return 0; // the result could not be held: leave the text as it is
-    }
-    if (count == 0)
-        return 0;
-    out.append(s + copied, n - copied);
-    if (out.size() > static_cast<std::size_t>(INT_MAX))
+    const auto runOf = [&](std::size_t k) { return Run{found[k], m}; };
+    if (found.empty() || !Rebuild(View(), found.size(), runOf, replacement,
+                                  static_cast<long long>(found.size()) * m, out))
         return 0;
     SetText(std::move(out));
-    return count;
+    return static_cast<int>(found.size());
 }
 
 int VU_CSearchableString::ReplaceText(const char16_t* find, const char16_t* replacement, BOOL all,
@@ -579,37 +660,25 @@ int VU_CSearchableString::FindReplaceRegularExp(const char16_t* pattern,
 int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view replacement) {
     const int n = GetLength();
     const char16_t* s = GetString();
-    std::u16string out;
-    int copied = 0, count = 0;
+    std::vector<Run> runs;
+    long long removed = 0;
     for (int from = 0; from <= n;) {
         const int found = m_regExp.RegFind(s + from);
         if (found < 0)
             break;
         const int at = from + found;
         const int length = m_regExp.GetFindLen();
-        if (count == 0)
-            out.reserve(n);
-        out.append(s + copied, at - copied).append(replacement);
-        copied = at + length;
-        ++count;
-        from = at + length;
-        if (length == 0) {
-            // An empty match keeps the character after it and moves on.
-            if (at < n)
-                out.push_back(s[at]);
-            copied = from = at + 1;
-        }
-        if (out.size() > static_cast<std::size_t>(INT_MAX))
-            return 0;
+        runs.push_back({at, length});
+        removed += length;
+        // After an empty match the character after it is kept and skipped.
+        from = at + std::max(length, 1);
     }
-    if (count == 0)
-        return 0;
-    if (copied < n)
-        out.append(s + copied, n - copied);
-    if (out.size() > static_cast<std::size_t>(INT_MAX))
+    std::u16string out;
+    const auto runOf = [&](std::size_t k) { return runs[k]; };
+    if (runs.empty() || !Rebuild(View(), runs.size(), runOf, replacement, removed, out))
         return 0;
     SetText(std::move(out));
-    return count;
+    return static_cast<int>(runs.size());
 }
 
 // ---- Fields ---------------------------------------------------------------
