@@ -160,6 +160,11 @@ TEST(SoftBreaksWrap, WrapsRewrapsAndKeepsHardBreaks) {
     EXPECT_EQ(s.WordWrapText(-1), 0);
     EXPECT_EQ(s.Str(), u"hello world again");
 
+    // Three breaks out move the caret short of the end; it is put back there.
+    s = Soft(u"a\r\r\nb\r\r\nc\r\r\nd", 13, 13);
+    EXPECT_EQ(s.WordWrapText(-1), 0);
+    EXPECT_EQ(SelectionOf(s), Selection(4, 4));
+
     s = u"x\r\ny";
     EXPECT_EQ(s.WordWrapText(1), 0) << "no soft break after a hard one";
     EXPECT_EQ(s.Str(), u"x\r\ny");
@@ -263,6 +268,8 @@ TEST(SoftBreaksReplace, SingleReplacementTakesTheFollowingCharacter) {
         {"absent", u"abc", u"x", u"y", FALSE, FALSE, 0, u"abc"},
         {"soft break kept after the edit", u"ab cd \r\r\nef", u"ab", u"xyz", FALSE, FALSE, 1,
          u"xyzcd \r\r\nef"},
+        {"break inside the replaced text", u"ab\r\r\ncd ef", u"bc", u"", FALSE, FALSE, 1,
+         u"a\r\r\n ef"},
         {"no-case form matches exactly", u"Aa", u"a", u"x", FALSE, TRUE, 1, u"Ax"},
     };
     for (const auto& row : rows) {
