@@ -1,0 +1,142 @@
+// Fuzzes the path and string utilities: the splitter (its parts must
+// concatenate back to the path, or all be empty when one is too long), the
+// path class's parse and setters, the prefix walk (items grow, end in
+// bounded steps) and the set edits of AF_GString (a ranged edit with an
+// unbounded count equals the unranged one). No file-system calls.
+#include "foundation/Path.h"
+#include "foundation/GString.h"
+#include "foundation/PathIterator.h"
+#include "foundation/SplitPath.h"
+
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+void Check(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+// Path-heavy alphabet: separators, dots, colons, spaces, letters, one unit
+// beyond ASCII; sometimes a long run to reach the 255-unit limits.
+std::u16string PathText(FuzzedDataProvider& in) {
+    static const char16_t alphabet[] = u"\\/.:  aBz1\t\u00e9";
+    std::u16string s;
+    const std::size_t n = in.ConsumeIntegralInRange<std::size_t>(0, 40);
+    for (std::size_t i = 0; i < n; ++i) {
+        const auto pick = in.ConsumeIntegralInRange<std::size_t>(0, std::size(alphabet) - 1);
+        if (pick == std::size(alphabet) - 1)
+            s.append(in.ConsumeIntegralInRange<std::size_t>(1, 300), u'x');
+        else
+            s += alphabet[pick];
+    }
+    return s;
+}
+
+void CheckSplit(const std::u16string& path) {
+    std::u16string drive, dir, fname, ext;
+    if (vu::SplitPath(path.c_str(), &drive, &dir, &fname, &ext)) {
+        Check(drive + dir + fname + ext == path);
+        Check(dir.empty() || dir.back() == u'\\' || dir.back() == u'/');
+        Check(fname.find_first_of(u"\\/") == std::u16string::npos);
+        Check(ext.empty() ||
+              (ext[0] == u'.' && ext.find_first_of(u"\\/.", 1) == std::u16string::npos));
+    } else {
+        Check(drive.empty() && dir.empty() && fname.empty() && ext.empty());
+        Check(path.size() >= vu::kMaxFname - 1); // some part had 255 units or more
+    }
+}
+
+void CheckWalk(const std::u16string& path) {
+    AF_CPathIterator it(path.c_str());
+    std::u16string previous = it.First();
+    std::size_t steps = 0;
+    while (!it.Done()) {
+        Check(++steps <= path.size() + 2);
+        const std::u16string item = it++;
+        if (it.Done()) {
+            Check(item.empty());
+            break;
+        }
+        Check(item.size() >= previous.size());
+        Check(path.compare(0, item.size(), item) == 0);
+        previous = item;
+    }
+}
+
+void EditPath(FuzzedDataProvider& in) {
+    AF_CPath p(PathText(in).c_str());
+    for (int i = 0; i < 6 && in.remaining_bytes() > 0; ++i) {
+        const std::u16string arg = PathText(in);
+        switch (in.ConsumeIntegralInRange(0, 7)) {
+        case 0:
+            p.SetDrive(arg.c_str());
+            break;
+        case 1:
+            p.SetDir(arg.c_str());
+            break;
+        case 2:
+            p.SetDriveDir(arg.c_str());
+            break;
+        case 3:
+            p.SetRoot(arg.c_str());
+            break;
+        case 4:
+            p.SetExt(arg.c_str());
+            break;
+        case 5:
+            p.SetName(arg.c_str());
+            break;
+        case 6:
+            p = arg.c_str();
+            break;
+        default:
+            p.SetPath(arg.c_str());
+            break;
+        }
+        Check(p.GetDrive().GetLength() <= 1);
+        Check(p == AF_CPath(p));
+        (void)AF_CPath::IsShareName(p);
+        (void)AF_CPath::IsMachineName(p);
+        CheckWalk(p.GetDriveDir().Str());
+    }
+}
+
+void EditString(FuzzedDataProvider& in) {
+    const AF_GString text(PathText(in));
+    const AF_GString set(PathText(in).substr(0, 3));
+    const auto pos = in.ConsumeIntegralInRange<std::size_t>(0, text.size() + 2);
+    AF_GString a = text, b = text;
+    Check(a.remove(set, pos) == b.remove(set, pos, AF_GString::npos));
+    a = b = text;
+    Check(a.filter(set, pos) == b.filter(set, pos, AF_GString::npos));
+    a = b = text;
+    Check(a.remove_substr(set, pos) == b.remove_substr(set, pos, AF_GString::npos));
+    a = b = text;
+    Check(a.convert(set, u"#", pos) == b.convert(set, u"#", pos, AF_GString::npos));
+    a = text;
+    a.reduce_repeat(set, pos);
+    Check(a.size() <= text.size());
+    a = text;
+    const auto n = in.ConsumeIntegralInRange<std::size_t>(0, 5);
+    a.mnemonic(set, n);
+    Check(a.find_first_of(set) == std::u16string::npos || set.empty());
+    (void)text.substr(set, AF_GString(u"."));
+    Check(text.count(set, pos) <= text.size());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    FuzzedDataProvider in(data, size);
+    const std::u16string path = PathText(in);
+    CheckSplit(path);
+    CheckWalk(path);
+    EditPath(in);
+    EditString(in);
+    return 0;
+}
