@@ -673,6 +673,8 @@ int CString::Delete(int index, int count) {
 }
 
 int CString::Replace(char16_t oldCh, char16_t newCh) {
+    if (oldCh == newCh)
+        return 0; // nothing would change, so nothing counts as replaced
     int n = 0;
     for (char16_t& c : m_str) {
         if (c == oldCh) {

@@ -201,15 +201,4 @@ TEST(TypedArrays, ObArrayDoesNotOwnItsObjects) {
     delete owned;
 }
 
-TEST(TypedArrays, ScalarArraysKeepTheirWidth) {
-    CWordArray words;
-    words.Add(static_cast<WORD>(70000 & 0xFFFF));
-    EXPECT_EQ(words[0], 4464);
-    CUIntArray uints;
-    uints.Add(0xFFFFFFFFu);
-    EXPECT_EQ(uints[0], 0xFFFFFFFFu);
-    uints.InsertAt(3, 5u);
-    EXPECT_EQ(Items(uints), (std::vector<int>{-1, 0, 0, 5}));
-}
-
 } // namespace

@@ -206,6 +206,7 @@ TEST(CString, ReplaceScansLeftToRightWithoutOverlapAndCounts) {
     }
 
     CString s(u"a-b-c");
+    EXPECT_EQ(s.Replace(u'-', u'-'), 0);
     EXPECT_EQ(s.Replace(u'-', u'+'), 2);
     EXPECT_EQ(S(s), u"a+b+c");
     EXPECT_EQ(s.Remove(u'+'), 2);
