@@ -1,0 +1,112 @@
+#pragma once
+
+// Real English text for the text benchmarks: the Perl documentation that
+// Debian's `perl-doc` package installs as /usr/share/perl/<version>/pod/*.pod
+// (about 18 MB of prose with some code). Files are read in name order,
+// decoded from UTF-8 and widened to UTF-16, so every run sees the same text.
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vu::bench {
+
+// UTF-8 to UTF-16; malformed bytes become U+FFFD.
+inline std::u16string DecodeUtf8(std::string_view in) {
+    std::u16string out;
+    out.reserve(in.size());
+    for (size_t i = 0; i < in.size();) {
+        const unsigned char b = static_cast<unsigned char>(in[i]);
+        int extra = b < 0x80 ? 0 : (b >> 5) == 6 ? 1 : (b >> 4) == 14 ? 2 : (b >> 3) == 30 ? 3 : -1;
+        if (extra < 0 || i + size_t(extra) >= in.size()) {
+            out += char16_t(0xFFFD);
+            ++i;
+            continue;
+        }
+        char32_t c = extra == 0 ? b : b & (0x3F >> extra);
+        bool ok = true;
+        for (int k = 1; k <= extra; ++k) {
+            const unsigned char t = static_cast<unsigned char>(in[i + size_t(k)]);
+            ok = ok && (t >> 6) == 2;
+            c = (c << 6) | (t & 0x3F);
+        }
+        if (!ok) {
+            out += char16_t(0xFFFD);
+            ++i;
+            continue;
+        }
+        i += size_t(extra) + 1;
+        if (c >= 0x10000) {
+            c -= 0x10000;
+            out += char16_t(0xD800 + (c >> 10));
+            out += char16_t(0xDC00 + (c & 0x3FF));
+        } else {
+            out += char16_t(c);
+        }
+    }
+    return out;
+}
+
+// The pod files of the newest Perl documentation directory, in name order.
+inline std::vector<std::filesystem::path> CorpusFiles() {
+    namespace fs = std::filesystem;
+    std::vector<fs::path> dirs;
+    std::error_code ec;
+    for (const auto& entry : fs::directory_iterator("/usr/share/perl", ec))
+        if (entry.is_directory() && !entry.is_symlink() && fs::exists(entry.path() / "pod"))
+            dirs.push_back(entry.path() / "pod");
+    std::vector<fs::path> files;
+    if (dirs.empty())
+        return files;
+    std::sort(dirs.begin(), dirs.end());
+    for (const auto& entry : fs::directory_iterator(dirs.back(), ec))
+        if (entry.path().extension() == ".pod")
+            files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+// At least `minUnits` units of English text (the documentation repeated if it
+// is shorter). Exits with a message when the package is missing.
+inline std::u16string LoadEnglishCorpus(size_t minUnits = 6'000'000) {
+    std::u16string text;
+    const auto files = CorpusFiles();
+    for (size_t round = 0; text.size() < minUnits && !files.empty(); ++round) {
+        for (const auto& file : files) {
+            std::ifstream in(file, std::ios::binary);
+            const std::string bytes((std::istreambuf_iterator<char>(in)),
+                                    std::istreambuf_iterator<char>());
+            text += DecodeUtf8(bytes);
+            if (text.size() >= minUnits)
+                break;
+        }
+    }
+    if (text.empty()) {
+        std::fprintf(stderr, "benchmark corpus missing: install the Debian package perl-doc\n");
+        std::exit(2);
+    }
+    text.resize(std::min(text.size(), std::max(minUnits, size_t(1))));
+    // The engines under test stop at NUL; the documentation has none, but
+    // be sure.
+    std::replace(text.begin(), text.end(), u'\0', u' ');
+    return text;
+}
+
+// The first `maxLines` lines of `text`, without their line breaks.
+inline std::vector<std::u16string> SplitLines(std::u16string_view text, size_t maxLines) {
+    std::vector<std::u16string> lines;
+    while (!text.empty() && lines.size() < maxLines) {
+        const size_t end = std::min(text.find(u'\n'), text.size());
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+} // namespace vu::bench
