@@ -90,27 +90,37 @@ inline bool IsUnitAligned(const char16_t* s) {
     return (reinterpret_cast<uintptr_t>(s) & 1) == 0;
 }
 
-inline unsigned TrailingZeros(unsigned v) {
-    return unsigned(__builtin_ctz(v));
-}
-
-// Walks the aligned blocks from the one holding `s`. `mask(block)` returns the
-// byte mask of interesting units (two bits per unit); the first block's mask
-// drops the units before `s`. Returns the first interesting unit.
-template <class MaskFn> VU_NO_ASAN const char16_t* FirstInBlocks(const char16_t* s, MaskFn mask) {
-    const uintptr_t addr = reinterpret_cast<uintptr_t>(s);
-    uintptr_t block = addr & ~uintptr_t(15);
-    unsigned m = mask(_mm_load_si128(reinterpret_cast<const __m128i*>(block)));
-    m &= ~0u << (addr - block);
-    while (m == 0) {
-        block += 16;
-        m = mask(_mm_load_si128(reinterpret_cast<const __m128i*>(block)));
-    }
-    return reinterpret_cast<const char16_t*>(block + TrailingZeros(m));
-}
-
 inline unsigned Mask(__m128i eq) {
     return unsigned(_mm_movemask_epi8(eq));
+}
+
+// Byte mask (two bits per unit) of the four vectors of a 64-byte region.
+inline uint64_t Mask64(__m128i h0, __m128i h1, __m128i h2, __m128i h3) {
+    return uint64_t(Mask(h0)) | uint64_t(Mask(h1)) << 16 | uint64_t(Mask(h2)) << 32 |
+           uint64_t(Mask(h3)) << 48;
+}
+
+inline bool Any(__m128i h0, __m128i h1, __m128i h2, __m128i h3) {
+    return Mask(_mm_or_si128(_mm_or_si128(h0, h1), _mm_or_si128(h2, h3))) != 0;
+}
+
+// Walks the aligned 64-byte regions from the one holding `s`; a region never
+// straddles a page. `hits(vector)` marks the interesting units; those before
+// `s` are dropped. Returns the first interesting unit.
+template <class HitFn> VU_NO_ASAN const char16_t* FirstInRegions(const char16_t* s, HitFn hits) {
+    const uintptr_t addr = reinterpret_cast<uintptr_t>(s);
+    uintptr_t region = addr & ~uintptr_t(63);
+    uint64_t startMask = ~uint64_t(0) << (addr - region);
+    for (;; region += 64, startMask = ~uint64_t(0)) {
+        const __m128i* p = reinterpret_cast<const __m128i*>(region);
+        const __m128i h0 = hits(_mm_load_si128(p)), h1 = hits(_mm_load_si128(p + 1));
+        const __m128i h2 = hits(_mm_load_si128(p + 2)), h3 = hits(_mm_load_si128(p + 3));
+        if (!Any(h0, h1, h2, h3))
+            continue;
+        const uint64_t m = Mask64(h0, h1, h2, h3) & startMask;
+        if (m)
+            return reinterpret_cast<const char16_t*>(region + uint64_t(__builtin_ctzll(m)));
+    }
 }
 
 #endif
@@ -122,7 +132,7 @@ size_t VU_CRegExpScan::Length(const char16_t* s) {
     if (IsUnitAligned(s)) {
         const __m128i zero = _mm_setzero_si128();
         const char16_t* end =
-            FirstInBlocks(s, [zero](__m128i v) { return Mask(_mm_cmpeq_epi16(v, zero)); });
+            FirstInRegions(s, [zero](__m128i v) { return _mm_cmpeq_epi16(v, zero); });
         return size_t(end - s);
     }
 #endif
@@ -134,8 +144,8 @@ const char16_t* VU_CRegExpScan::FindUnit(const char16_t* s, char16_t c) {
     if (IsUnitAligned(s)) {
         const __m128i zero = _mm_setzero_si128();
         const __m128i wanted = _mm_set1_epi16(short(c));
-        const char16_t* p = FirstInBlocks(s, [zero, wanted](__m128i v) {
-            return Mask(_mm_or_si128(_mm_cmpeq_epi16(v, wanted), _mm_cmpeq_epi16(v, zero)));
+        const char16_t* p = FirstInRegions(s, [zero, wanted](__m128i v) {
+            return _mm_or_si128(_mm_cmpeq_epi16(v, wanted), _mm_cmpeq_epi16(v, zero));
         });
         return *p ? p : nullptr;
     }
@@ -150,7 +160,7 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s)) {
         // Filter on the first unit and a rarer one at most 7 units later, so
-        // that the second load stays within the next aligned block; verify
+        // that the second loads stay within the next aligned region; verify
         // each candidate unit by unit.
         size_t second = 1;
         const size_t lastSecond = length - 1 < 7 ? length - 1 : 7;
@@ -161,30 +171,45 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
         const __m128i first = _mm_set1_epi16(short(literal[0]));
         const __m128i other = _mm_set1_epi16(short(literal[second]));
         const uintptr_t addr = reinterpret_cast<uintptr_t>(s);
-        uintptr_t block = addr & ~uintptr_t(15);
-        unsigned startMask = ~0u << (addr - block);
-        for (;; block += 16, startMask = ~0u) {
-            const __m128i v = _mm_load_si128(reinterpret_cast<const __m128i*>(block));
-            const char16_t* units = reinterpret_cast<const char16_t*>(block);
-            const unsigned nul = Mask(_mm_cmpeq_epi16(v, zero)) & startMask;
-            if (nul) {
-                // The string ends in this block: finish unit by unit.
-                const char16_t* end = units + TrailingZeros(nul) / 2;
-                for (const char16_t* p = units + TrailingZeros(startMask) / 2; p < end; ++p)
-                    if (*p == literal[0] && MatchesAt(p, literal, length))
-                        return p;
-                return nullptr;
+        uintptr_t region = addr & ~uintptr_t(63);
+        uint64_t startMask = ~uint64_t(0) << (addr - region);
+        for (;; region += 64, startMask = ~uint64_t(0)) {
+            const __m128i* p = reinterpret_cast<const __m128i*>(region);
+            const char16_t* units = reinterpret_cast<const char16_t*>(region);
+            const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
+            const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
+            const __m128i z0 = _mm_cmpeq_epi16(a0, zero), z1 = _mm_cmpeq_epi16(a1, zero);
+            const __m128i z2 = _mm_cmpeq_epi16(a2, zero), z3 = _mm_cmpeq_epi16(a3, zero);
+            if (Any(z0, z1, z2, z3)) {
+                const uint64_t nul = Mask64(z0, z1, z2, z3) & startMask;
+                if (nul) {
+                    // The string ends in this region: finish unit by unit.
+                    const char16_t* end = units + __builtin_ctzll(nul) / 2;
+                    for (const char16_t* q = units + __builtin_ctzll(startMask) / 2; q < end; ++q)
+                        if (*q == literal[0] && MatchesAt(q, literal, length))
+                            return q;
+                    return nullptr;
+                }
             }
-            // No NUL here, so the next aligned block is readable.
-            const __m128i w = _mm_loadu_si128(reinterpret_cast<const __m128i*>(units + second));
-            unsigned m = Mask(_mm_and_si128(_mm_cmpeq_epi16(v, first), _mm_cmpeq_epi16(w, other))) &
-                         startMask;
+            // No NUL here, so the next region is readable.
+            const __m128i* w = reinterpret_cast<const __m128i*>(units + second);
+            const __m128i h0 = _mm_and_si128(_mm_cmpeq_epi16(a0, first),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w), other));
+            const __m128i h1 = _mm_and_si128(_mm_cmpeq_epi16(a1, first),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 1), other));
+            const __m128i h2 = _mm_and_si128(_mm_cmpeq_epi16(a2, first),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 2), other));
+            const __m128i h3 = _mm_and_si128(_mm_cmpeq_epi16(a3, first),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), other));
+            if (!Any(h0, h1, h2, h3))
+                continue;
+            uint64_t m = Mask64(h0, h1, h2, h3) & startMask;
             while (m) {
-                const unsigned bit = TrailingZeros(m);
-                const char16_t* p = units + bit / 2;
-                if (MatchesAt(p, literal, length))
-                    return p;
-                m &= ~(3u << bit);
+                const unsigned bit = unsigned(__builtin_ctzll(m));
+                const char16_t* q = units + bit / 2;
+                if (MatchesAt(q, literal, length))
+                    return q;
+                m &= ~(uint64_t(3) << bit);
             }
         }
     }
@@ -199,18 +224,24 @@ const char16_t* VU_CRegExpScan::FindInRanges(const char16_t* s, const char16_t* 
         // c is in lo..hi exactly when (c - lo) wraps to at most hi - lo, which
         // a saturating subtraction of (hi - lo) turns into a test for zero.
         __m128i los[kMaxRanges], spans[kMaxRanges];
+        bool single[kMaxRanges];
         for (int i = 0; i < count; ++i) {
             los[i] = _mm_set1_epi16(short(lo[i]));
             spans[i] = _mm_set1_epi16(short(char16_t(hi[i] - lo[i])));
+            single[i] = lo[i] == hi[i];
         }
         const __m128i zero = _mm_setzero_si128();
-        const char16_t* p = FirstInBlocks(s, [&](__m128i v) {
+        const char16_t* p = FirstInRegions(s, [&](__m128i v) {
             __m128i hit = _mm_cmpeq_epi16(v, zero);
             for (int i = 0; i < count; ++i) {
+                if (single[i]) {
+                    hit = _mm_or_si128(hit, _mm_cmpeq_epi16(v, los[i]));
+                    continue;
+                }
                 const __m128i offset = _mm_sub_epi16(v, los[i]);
                 hit = _mm_or_si128(hit, _mm_cmpeq_epi16(_mm_subs_epu16(offset, spans[i]), zero));
             }
-            return Mask(hit);
+            return hit;
         });
         return *p ? p : nullptr;
     }
@@ -222,8 +253,9 @@ size_t VU_CRegExpScan::RunOf(const char16_t* s, char16_t c) {
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s)) {
         const __m128i wanted = _mm_set1_epi16(short(c));
-        const char16_t* end = FirstInBlocks(
-            s, [wanted](__m128i v) { return Mask(_mm_cmpeq_epi16(v, wanted)) ^ 0xFFFFu; });
+        const char16_t* end = FirstInRegions(s, [wanted](__m128i v) {
+            return _mm_xor_si128(_mm_cmpeq_epi16(v, wanted), _mm_set1_epi32(-1));
+        });
         return size_t(end - s);
     }
 #endif
