@@ -41,7 +41,7 @@ struct NameTailTable {
     constexpr NameTailTable() {
         for (int c = 'A'; c <= 'Z'; ++c)
             allowed[c] = allowed[c + ('a' - 'A')] = true;
-        allowed['_'] = allowed[':'] = true;
+        allowed[int{'_'}] = allowed[int{':'}] = true;
     }
 };
 constexpr NameTailTable kNameTail;

@@ -63,6 +63,7 @@ INSTANTIATE_TEST_SUITE_P(
         WrapRow{"IdeographicSpaceDoesNotHang", u"abcd\u3000x", 4, {u"abcd", u"\u3000x"}},
         WrapRow{"IdeographicSpaceBreaks", u"aaa\u3000bbb", 4, {u"aaa\u3000", u"bbb"}},
         WrapRow{"NoBreakSpaceJoins", u"aaa\u00a0bbb", 4, {u"aaa\u00a0", u"bbb"}},
+        WrapRow{"FigureSpaceJoins", u"aaa\u2007bbb", 4, {u"aaa\u2007", u"bbb"}},
         WrapRow{"ZeroLengthCutsEveryCharacter", u"ab", 0, {u"a", u"b"}}),
     RowName);
 
