@@ -172,45 +172,74 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
         const __m128i other = _mm_set1_epi16(short(literal[second]));
         const uintptr_t addr = reinterpret_cast<uintptr_t>(s);
         uintptr_t region = addr & ~uintptr_t(63);
-        uint64_t startMask = ~uint64_t(0) << (addr - region);
-        for (;; region += 64, startMask = ~uint64_t(0)) {
+        const uint64_t startMask = ~uint64_t(0) << (addr - region);
+        {
+            // The region holding s: look for the first unit, and for the
+            // other one ahead of it once the region is known to hold no NUL.
             const __m128i* p = reinterpret_cast<const __m128i*>(region);
             const char16_t* units = reinterpret_cast<const char16_t*>(region);
             const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
             const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
-            const __m128i z0 = _mm_cmpeq_epi16(a0, zero), z1 = _mm_cmpeq_epi16(a1, zero);
-            const __m128i z2 = _mm_cmpeq_epi16(a2, zero), z3 = _mm_cmpeq_epi16(a3, zero);
-            if (Any(z0, z1, z2, z3)) {
-                const uint64_t nul = Mask64(z0, z1, z2, z3) & startMask;
-                if (nul) {
-                    // The string ends in this region: finish unit by unit.
-                    const char16_t* end = units + __builtin_ctzll(nul) / 2;
-                    for (const char16_t* q = units + __builtin_ctzll(startMask) / 2; q < end; ++q)
-                        if (*q == literal[0] && MatchesAt(q, literal, length))
-                            return q;
-                    return nullptr;
-                }
+            const uint64_t nul = Mask64(_mm_cmpeq_epi16(a0, zero), _mm_cmpeq_epi16(a1, zero),
+                                        _mm_cmpeq_epi16(a2, zero), _mm_cmpeq_epi16(a3, zero)) &
+                                 startMask;
+            if (nul) {
+                // The string ends here: finish unit by unit.
+                const char16_t* end = units + __builtin_ctzll(nul) / 2;
+                for (const char16_t* q = s; q < end; ++q)
+                    if (*q == literal[0] && MatchesAt(q, literal, length))
+                        return q;
+                return nullptr;
             }
-            // No NUL here, so the next region is readable.
             const __m128i* w = reinterpret_cast<const __m128i*>(units + second);
-            const __m128i h0 = _mm_and_si128(_mm_cmpeq_epi16(a0, first),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w), other));
-            const __m128i h1 = _mm_and_si128(_mm_cmpeq_epi16(a1, first),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 1), other));
-            const __m128i h2 = _mm_and_si128(_mm_cmpeq_epi16(a2, first),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 2), other));
-            const __m128i h3 = _mm_and_si128(_mm_cmpeq_epi16(a3, first),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), other));
-            if (!Any(h0, h1, h2, h3))
-                continue;
-            uint64_t m = Mask64(h0, h1, h2, h3) & startMask;
-            while (m) {
-                const unsigned bit = unsigned(__builtin_ctzll(m));
-                const char16_t* q = units + bit / 2;
+            uint64_t m = Mask64(_mm_and_si128(_mm_cmpeq_epi16(a0, first),
+                                              _mm_cmpeq_epi16(_mm_loadu_si128(w), other)),
+                                _mm_and_si128(_mm_cmpeq_epi16(a1, first),
+                                              _mm_cmpeq_epi16(_mm_loadu_si128(w + 1), other)),
+                                _mm_and_si128(_mm_cmpeq_epi16(a2, first),
+                                              _mm_cmpeq_epi16(_mm_loadu_si128(w + 2), other)),
+                                _mm_and_si128(_mm_cmpeq_epi16(a3, first),
+                                              _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), other))) &
+                         startMask;
+            for (; m; m &= m - 1, m &= m - 1) {
+                const char16_t* q = units + __builtin_ctzll(m) / 2;
                 if (MatchesAt(q, literal, length))
                     return q;
-                m &= ~(uint64_t(3) << bit);
             }
+        }
+        // Later regions: find the other unit and look back for the first one
+        // (the previous region has been read, so the loads stay in readable
+        // memory); the NUL test shares the branch.
+        for (region += 64;; region += 64) {
+            const __m128i* p = reinterpret_cast<const __m128i*>(region);
+            const char16_t* units = reinterpret_cast<const char16_t*>(region);
+            const __m128i* w = reinterpret_cast<const __m128i*>(units - second);
+            const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
+            const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
+            const __m128i z0 = _mm_cmpeq_epi16(a0, zero), z1 = _mm_cmpeq_epi16(a1, zero);
+            const __m128i z2 = _mm_cmpeq_epi16(a2, zero), z3 = _mm_cmpeq_epi16(a3, zero);
+            const __m128i h0 = _mm_and_si128(_mm_cmpeq_epi16(a0, other),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w), first));
+            const __m128i h1 = _mm_and_si128(_mm_cmpeq_epi16(a1, other),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 1), first));
+            const __m128i h2 = _mm_and_si128(_mm_cmpeq_epi16(a2, other),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 2), first));
+            const __m128i h3 = _mm_and_si128(_mm_cmpeq_epi16(a3, other),
+                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), first));
+            if (!Any(_mm_or_si128(h0, z0), _mm_or_si128(h1, z1), _mm_or_si128(h2, z2),
+                     _mm_or_si128(h3, z3)))
+                continue;
+            const uint64_t nul = Mask64(z0, z1, z2, z3);
+            uint64_t m = Mask64(h0, h1, h2, h3);
+            if (nul)
+                m &= (uint64_t(1) << __builtin_ctzll(nul)) - 1; // other unit before the NUL
+            for (; m; m &= m - 1, m &= m - 1) {
+                const char16_t* q = units + __builtin_ctzll(m) / 2 - second;
+                if (q >= s && MatchesAt(q, literal, length))
+                    return q;
+            }
+            if (nul)
+                return nullptr;
         }
     }
 #endif
