@@ -1,0 +1,98 @@
+// The summary list box on a real window: its rows, texts, scroll bar test
+// and what it draws.
+#include "TreeTestHost.h"
+
+#include "tree/win/SummaryListBox.h"
+
+#include <gtest/gtest.h>
+
+namespace treetest {
+namespace {
+
+constexpr int kRow = 16;
+
+class SummaryTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED |
+                                    LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+                                CRect(0, 0, 200, 10 * kRow), parent.Handle(), 77));
+        SendMessageW(list.m_hWnd, LB_SETITEMHEIGHT, 0, kRow);
+        RECT client{}, window{};
+        GetClientRect(list.m_hWnd, &client);
+        GetWindowRect(list.m_hWnd, &window);
+        SetWindowPos(list.m_hWnd, nullptr, 0, 0, 200,
+                     10 * kRow + (window.bottom - window.top) - client.bottom,
+                     SWP_NOMOVE | SWP_NOZORDER);
+    }
+    ParentWindow parent;
+    VU_CSummaryListBox list;
+};
+
+TEST_F(SummaryTest, LinesAndTheirTexts) {
+    EXPECT_EQ(0, list.AddItem(CString(u"Controller"), true));
+    EXPECT_EQ(1, list.AddItem(CString(u"Name: Line_3"), false));
+    EXPECT_EQ(CString(u"Name: Line_3"), list.GetDisplayText(1));
+    EXPECT_TRUE(list.GetDisplayText(-1).IsEmpty());
+    EXPECT_TRUE(list.GetDisplayText(2).IsEmpty());
+    EXPECT_TRUE(list.GetCurSelDisplayText().IsEmpty()) << "nothing selected";
+    list.SetDisplayText(1, CString(u"Name: Line_4"));
+    list.SetDisplayText(5, CString(u"ignored"));
+    list.SetCurSel(1);
+    EXPECT_EQ(CString(u"Name: Line_4"), list.GetCurSelDisplayText());
+    EXPECT_EQ(2, list.GetLineCount());
+}
+
+TEST_F(SummaryTest, ScrollbarOnlyPastOnePage) {
+    EXPECT_FALSE(list.IsVerticalScrollbarVisible());
+    for (int i = 0; i < 10; ++i)
+        list.AddItem(CString(u"line"), false);
+    EXPECT_FALSE(list.IsVerticalScrollbarVisible()) << "exactly one page";
+    list.AddItem(CString(u"line"), false);
+    EXPECT_TRUE(list.IsVerticalScrollbarVisible());
+}
+
+TEST_F(SummaryTest, HeaderAndLineWithTheSameTextStartTwelvePixelsApart) {
+    SendMessageW(list.m_hWnd, WM_SETFONT,
+                 reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    list.AddItem(CString(u"HHH"), true);
+    list.AddItem(CString(u"HHH"), false);
+    ClientPicture picture(list.m_hWnd);
+    const COLORREF background = picture.At(picture.Width() - 1, 1);
+    const int header = picture.FirstInkX(0, kRow, background);
+    const int line = picture.FirstInkX(kRow, 2 * kRow, background);
+    ASSERT_GE(header, 3);
+    EXPECT_EQ(12, line - header);
+}
+
+TEST_F(SummaryTest, SelectedLinesLookTheSame) {
+    list.AddItem(CString(u"Tags: 120"), false);
+    list.AddItem(CString(u"Tags: 120"), false);
+    list.SetCurSel(1);
+    ClientPicture picture(list.m_hWnd);
+    for (int y = 0; y < kRow; ++y)
+        for (int x = 0; x < picture.Width(); ++x)
+            ASSERT_EQ(picture.At(x, y), picture.At(x, y + kRow)) << x << "," << y;
+}
+
+class CountingSummary : public VU_CSummaryListBox {
+public:
+    int made = 0;
+    CSummaryNode* CreateSummaryNode(const CString& text, bool header) override {
+        ++made;
+        return VU_CSummaryListBox::CreateSummaryNode(text, header);
+    }
+};
+
+TEST(SummaryFactory, AddItemGoesThroughTheFactory) {
+    ParentWindow parent;
+    CountingSummary list;
+    ASSERT_TRUE(
+        list.Create(WS_CHILD | LBS_OWNERDRAWFIXED, CRect(0, 0, 100, 100), parent.Handle(), 1));
+    list.AddItem(CString(u"a"), true);
+    list.AddItem(CString(u"b"), false);
+    EXPECT_EQ(2, list.made);
+}
+
+} // namespace
+} // namespace treetest

@@ -1,0 +1,203 @@
+// What the tree list box draws, read back from a picture of its client area,
+// and the tool tip text for rows that do not fit.
+#include "TreeFixture.h"
+
+#include "tree/TreeImages.h"
+#include "tree/TreeListGeometry.h"
+
+namespace treetest {
+namespace {
+
+const COLORREF kLineGrey = RGB(128, 128, 128);
+
+TEST_F(TreeListTest, DrawsBackgroundsLinesButtonsAndImages) {
+    // Header and separator first: AddHeader finds its node by row + 1.
+    list->AddHeader(S(u"Header")); // row 0
+    list->AddSeparator();          // row 1
+    BuildSample();
+    const int a = 2; // rows: Header, sep, A, A1, A2, B, C
+    list->Expand(a);
+    Select(a + 1);
+    ClientPicture picture(Hwnd());
+    const int right = picture.Width() - 2;
+
+    SCOPED_TRACE("backgrounds");
+    EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), picture.At(right, MidY(a + 1)));
+    EXPECT_EQ(GetSysColor(COLOR_WINDOW), picture.At(right, MidY(a + 2)));
+    EXPECT_EQ(GetSysColor(COLOR_BTNFACE), picture.At(right, MidY(0)));
+
+    SCOPED_TRACE("tree lines of level 1 at x = 23");
+    const int x1 = vu::treelist::TreeLineX(1, 0);
+    const int a2Top = (a + 2) * kRowHeight;
+    EXPECT_EQ(kLineGrey, picture.At(x1, a2Top + 1)) << "A2's line from the top";
+    EXPECT_EQ(kLineGrey, picture.At(x1, a2Top - 1))
+        << "A1 is not the last child: its line goes on through the row";
+    EXPECT_NE(kLineGrey, picture.At(x1, a2Top + kRowHeight - 2))
+        << "A2 is the last child: its line stops in the middle";
+    EXPECT_EQ(kLineGrey, picture.At(x1 + 4, MidY(a + 2))) << "horizontal line to the button column";
+    EXPECT_NE(kLineGrey, picture.At(vu::treelist::TreeLineX(0, 0) + 6, MidY(a + 4)))
+        << "roots have no line";
+
+    SCOPED_TRACE("expand buttons at x = 7");
+    const int x0 = vu::treelist::TreeLineX(0, 0);
+    EXPECT_EQ(kLineGrey, picture.At(x0 - 4, MidY(a))) << "button frame";
+    EXPECT_EQ(GetSysColor(COLOR_WINDOWTEXT), picture.At(x0, MidY(a))) << "minus";
+    EXPECT_EQ(GetSysColor(COLOR_WINDOW), picture.At(x0, MidY(a) - 2)) << "no plus bar: expanded";
+    EXPECT_EQ(GetSysColor(COLOR_WINDOWTEXT), picture.At(x0, MidY(a + 3) - 2))
+        << "B collapsed: plus";
+    EXPECT_NE(kLineGrey, picture.At(x0 - 4, MidY(a + 4))) << "C, a leaf, has no button";
+
+    SCOPED_TRACE("separator");
+    EXPECT_TRUE(picture.HasColour(10, kRowHeight, picture.Width(), 2 * kRowHeight,
+                                  GetSysColor(COLOR_BTNSHADOW)));
+
+    SCOPED_TRACE("images from the own list");
+    const int imageLeft = vu::treelist::ImageLeft(0, 0);
+    EXPECT_TRUE(picture.HasColour(imageLeft, a * kRowHeight, imageLeft + 16, (a + 1) * kRowHeight,
+                                  RGB(250, 214, 104)))
+        << "A shows the folder image";
+    EXPECT_FALSE(picture.HasColour(0, 0, picture.Width(), picture.Height(), RGB(0, 0, 255)))
+        << "the mask colour never shows";
+}
+
+TEST_F(TreeListTest, HeaderTextIsBold) {
+    list->AddItem(S(u"WWWW"), -1, -1, 0);
+    list->AddHeader(S(u"WWWW"));
+    ClientPicture picture(Hwnd());
+    const auto inkWidth = [&](int row, COLORREF background) {
+        int first = -1, last = -1;
+        for (int x = list->GetTextLeft(row); x < picture.Width(); ++x)
+            for (int y = row * kRowHeight; y < (row + 1) * kRowHeight; ++y)
+                if (picture.At(x, y) != background) {
+                    if (first < 0)
+                        first = x;
+                    last = x;
+                }
+        return last - first;
+    };
+    EXPECT_GT(inkWidth(1, GetSysColor(COLOR_BTNFACE)), inkWidth(0, GetSysColor(COLOR_WINDOW)));
+}
+
+class GreyList : public VU_CTreeListBox {
+public:
+    BOOL IsItemEnabled(int row, long) override { return row != 1; }
+};
+
+TEST(TreeListDrawing, DisabledRowsAreGrey) {
+    ParentWindow parent;
+    GreyList list;
+    ASSERT_TRUE(CreateList(list, parent));
+    list.AddItem(S(u"Enabled row"), -1, -1, 0);
+    list.AddItem(S(u"Disabled row"), -1, -1, 0);
+    ClientPicture picture(list.m_hWnd);
+    const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
+    const COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
+    EXPECT_TRUE(picture.HasColour(0, 0, picture.Width(), kRowHeight, text));
+    EXPECT_FALSE(picture.HasColour(0, 0, picture.Width(), kRowHeight, grey));
+    EXPECT_TRUE(picture.HasColour(0, kRowHeight, picture.Width(), 2 * kRowHeight, grey));
+    EXPECT_FALSE(picture.HasColour(0, kRowHeight, picture.Width(), 2 * kRowHeight, text));
+}
+
+TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
+    ParentWindow parent;
+    VU_CTreeListBox list;
+    ASSERT_TRUE(CreateList(list, parent, 400));
+    SendMessageW(list.m_hWnd, WM_SETFONT,
+                 reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    CWordArray stops;
+    stops.Add(20);
+    list.SetTabStops(stops);
+    list.AddItem(S(u"x\tTYPE"), -1, -1, 0);
+    list.AddItem(S(u"WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW\tTYPE"), -1, -1, 0);
+    EXPECT_TRUE(list.DoesTextFitWithinRect(0));
+    EXPECT_FALSE(list.DoesTextFitWithinRect(1));
+    // Both rows start their second column at the same x.
+    ClientPicture picture(list.m_hWnd);
+    const COLORREF background = GetSysColor(COLOR_WINDOW);
+    HDC dc = GetDC(list.m_hWnd);
+    SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(list.m_hWnd, WM_GETFONT, 0, 0)));
+    TEXTMETRICW tm{};
+    GetTextMetricsW(dc, &tm);
+    ReleaseDC(list.m_hWnd, dc);
+    const int column = list.GetTextLeft(0) + 20 * tm.tmAveCharWidth;
+    const auto firstInkFrom = [&](int row, int from) {
+        for (int x = from; x < picture.Width(); ++x)
+            for (int y = row * kRowHeight; y < (row + 1) * kRowHeight; ++y)
+                if (picture.At(x, y) != background)
+                    return x;
+        return -1;
+    };
+    const int gapStart = column - 3; // the long first column stops short of the stop
+    EXPECT_EQ(firstInkFrom(0, gapStart), firstInkFrom(1, gapStart));
+    EXPECT_GE(firstInkFrom(0, gapStart), column);
+}
+
+TEST(TreeListToolTip, NeedTextGivesTheTextOfARowThatDoesNotFit) {
+    ParentWindow parent(300, 200);
+    ShowWindow(parent.Handle(), SW_SHOWNOACTIVATE);
+    VU_CTreeListBox list;
+    ASSERT_TRUE(CreateList(list, parent, 150, 4));
+    list.DisplayInColumns(false);
+    list.AddItem(S(u"Short"), -1, -1, 0);
+    list.AddItem(S(u"A much longer text than the control is wide, by far"), -1, -1, 0);
+    UpdateWindow(parent.Handle());
+
+    const auto tipAt = [&](int row) {
+        POINT p{60, MidY(row)};
+        ClientToScreen(list.m_hWnd, &p);
+        SetCursorPos(p.x, p.y);
+        NMTTDISPINFOW info{};
+        LRESULT result = 0;
+        EXPECT_TRUE(list.GetToolTipText(&info, &result));
+        return std::u16string(vu::U(info.lpszText));
+    };
+    EXPECT_EQ(u"", tipAt(0)) << "a text that fits gets no tip";
+    EXPECT_EQ(u"A much longer text than the control is wide, by far", tipAt(1));
+}
+
+TEST(TreeListToolTip, WithColumnsTheTipIsTheColumnUnderTheMouse) {
+    ParentWindow parent(300, 200);
+    ShowWindow(parent.Handle(), SW_SHOWNOACTIVATE);
+    VU_CTreeListBox list;
+    ASSERT_TRUE(CreateList(list, parent, 200, 4));
+    CWordArray stops;
+    stops.Add(4);
+    list.SetTabStops(stops);
+    list.AddItem(S(u"Tag\tA long description of the tag that cannot fit"), -1, -1, 0);
+    UpdateWindow(parent.Handle());
+    POINT p{list.GetTextLeft(0) + 100, MidY(0)};
+    ClientToScreen(list.m_hWnd, &p);
+    SetCursorPos(p.x, p.y);
+    NMTTDISPINFOW info{};
+    LRESULT result = 0;
+    list.GetToolTipText(&info, &result);
+    EXPECT_EQ(u"A long description of the tag that cannot fit",
+              std::u16string(vu::U(info.lpszText)));
+}
+
+TEST(TreeListToolTip, TheControlHasItsToolTipWindow) {
+    ParentWindow parent;
+    VU_CTreeListBox list;
+    ASSERT_TRUE(CreateList(list, parent));
+    HWND tip = nullptr;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND hWnd, LPARAM lParam) -> BOOL {
+            wchar_t name[64] = {};
+            GetClassNameW(hWnd, name, 64);
+            if (std::wstring(name) == TOOLTIPS_CLASSW) {
+                *reinterpret_cast<HWND*>(lParam) = hWnd;
+                return FALSE;
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&tip));
+    ASSERT_NE(nullptr, tip);
+    EXPECT_EQ(1, SendMessageW(tip, TTM_GETTOOLCOUNT, 0, 0));
+    EXPECT_EQ(200, SendMessageW(tip, TTM_GETDELAYTIME, TTDT_INITIAL, 0));
+    EXPECT_EQ(32767, SendMessageW(tip, TTM_GETDELAYTIME, TTDT_AUTOPOP, 0));
+    EXPECT_EQ(32767, SendMessageW(tip, TTM_GETMAXTIPWIDTH, 0, 0));
+}
+
+} // namespace
+} // namespace treetest

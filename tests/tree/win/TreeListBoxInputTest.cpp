@@ -1,0 +1,258 @@
+// Keyboard, mouse and list-box messages sent to a real tree list box.
+#include "TreeFixture.h"
+
+namespace treetest {
+namespace {
+
+// ---- Keyboard -------------------------------------------------------------------
+
+// Rows written as a string: 'n' a normal row, 'h' a header, 's' a separator.
+void BuildPattern(VU_CTreeListBox& list, const char* pattern) {
+    int i = 0;
+    for (const char* p = pattern; *p; ++p, ++i) {
+        if (*p == 'h')
+            list.AddHeader(S(u"Header"));
+        else if (*p == 's')
+            list.AddSeparator();
+        else
+            list.AddItem(CString(std::u16string(u"row ") + char16_t(u'0' + i)), 6, 6, 0);
+    }
+}
+
+TEST_F(TreeListTest, ArrowKeysStepOverHeadersAndSeparators) {
+    struct Case {
+        const char* name;
+        const char* pattern;
+        int from;
+        UINT key;
+        int expected;
+    } cases[] = {
+        {"down onto a normal row", "nnn", 0, VK_DOWN, 1},
+        {"down over a header", "nhn", 0, VK_DOWN, 2},
+        {"down over header and separator", "nhsn", 0, VK_DOWN, 3},
+        {"down above a trailing run of separators", "nnss", 1, VK_DOWN, 1},
+        {"up over a separator", "nsn", 2, VK_UP, 0},
+        {"up with headers reaching row 0", "hsn", 2, VK_UP, 2},
+        {"up onto a normal row", "nnh", 1, VK_UP, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        list->ResetTreeContents();
+        BuildPattern(*list, c.pattern);
+        Select(c.from);
+        Key(Hwnd(), c.key);
+        EXPECT_EQ(c.expected, Selected());
+    }
+}
+
+TEST_F(TreeListTest, PagingNeverRestsOnAHeader) {
+    BuildPattern(*list, "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnn");
+    Select(0);
+    Key(Hwnd(), VK_NEXT);
+    PumpMessages();
+    const int landing = Selected();
+    ASSERT_GT(landing, 1);
+
+    list->ResetTreeContents();
+    std::string pattern(30, 'n');
+    pattern[static_cast<size_t>(landing)] = 'h';
+    BuildPattern(*list, pattern.c_str());
+    Select(0);
+    Key(Hwnd(), VK_NEXT);
+    PumpMessages(); // the posted VK_UP
+    EXPECT_EQ(landing - 1, Selected());
+
+    Select(29);
+    Key(Hwnd(), VK_PRIOR);
+    PumpMessages();
+    const int up = Selected();
+    EXPECT_NE(landing, up) << "page up may not rest on the header either";
+}
+
+TEST_F(TreeListTest, LeftKeyCollapsesOrGoesToTheParentWithANotification) {
+    BuildSample();
+    list->ExpandThisAndParent(list->FindNode(3)); // A, A1, A1a, A1b, A2, B, C
+    Select(1);                                    // A1, expanded
+    Key(Hwnd(), VK_LEFT);
+    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ(1, Selected());
+    EXPECT_EQ(0, parent->CountCommands(LBN_SELCHANGE));
+
+    Key(Hwnd(), VK_LEFT); // A1 is now a collapsed child: go to A
+    EXPECT_EQ(0, Selected());
+    ASSERT_EQ(1, parent->CountCommands(LBN_SELCHANGE));
+    EXPECT_EQ(kControlId, parent->commands.back().id);
+    EXPECT_EQ(Hwnd(), parent->commands.back().from);
+
+    Select(2); // A2, a leaf: to its parent
+    Key(Hwnd(), VK_LEFT);
+    EXPECT_EQ(0, Selected());
+    EXPECT_EQ(2, parent->CountCommands(LBN_SELCHANGE));
+
+    Key(Hwnd(), VK_LEFT); // A: a root with children, expanded
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    Key(Hwnd(), VK_LEFT); // A collapsed root: nothing
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    Select(2); // C, a top-level leaf
+    Key(Hwnd(), VK_LEFT);
+    EXPECT_EQ(2, Selected());
+    EXPECT_EQ(2, parent->CountCommands(LBN_SELCHANGE));
+}
+
+TEST_F(TreeListTest, RightPlusAndMinusKeys) {
+    BuildSample();
+    Select(0);
+    Key(Hwnd(), VK_RIGHT);
+    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ(0, Selected()) << "right expands and does nothing else";
+    Key(Hwnd(), VK_SUBTRACT);
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    Select(1);
+    Key(Hwnd(), VK_ADD);
+    EXPECT_EQ((RowList{u"A", u"B", u"B1", u"C"}), Rows());
+    Key(Hwnd(), VK_SPACE);
+    EXPECT_EQ(1, Selected());
+}
+
+TEST_F(TreeListTest, KeysWithoutSelectionGetTheDefaultHandling) {
+    BuildSample();
+    Key(Hwnd(), VK_RIGHT); // nothing selected: nothing expands
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    list->ResetTreeContents();
+    Key(Hwnd(), VK_DOWN); // empty list
+    EXPECT_EQ(-1, Selected());
+}
+
+// ---- Mouse ------------------------------------------------------------------------
+
+TEST_F(TreeListTest, ClickOnTheButtonColumnTogglesUpToItsLastPixel) {
+    BuildSample();
+    list->Expand(0); // A1 at row 1, level 1
+    struct Case {
+        int gutter;
+        int x;
+        bool toggles;
+    } cases[] = {{0, 15, false}, {0, 16, true},  {0, 32, true},   {0, 33, false},
+                 {10, 26, true}, {10, 42, true}, {10, 43, false}, {10, 25, false}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE("gutter " + std::to_string(c.gutter) + " x " + std::to_string(c.x));
+        list->SetLeftGutterSize(c.gutter);
+        Click(Hwnd(), c.x, MidY(1));
+        EXPECT_EQ(1, Selected()) << "the click selects in every case";
+        EXPECT_EQ(c.toggles ? 7 : 5, list->GetRowCount());
+        list->Collapse(1);
+    }
+}
+
+TEST_F(TreeListTest, ClickOnAnExpandedButtonCollapses) {
+    BuildSample();
+    list->Expand(0);
+    Click(Hwnd(), 16, MidY(0));
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    Click(Hwnd(), 200, MidY(1)); // on B's text: selects only
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ(1, Selected());
+}
+
+TEST_F(TreeListTest, DoubleClickTogglesFromTheButtonRightwards) {
+    BuildSample();
+    list->SetLeftGutterSize(20);
+    DoubleClick(Hwnd(), 150, MidY(0));
+    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    DoubleClick(Hwnd(), 20, MidY(0));
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    DoubleClick(Hwnd(), 19, MidY(0)); // in the gutter
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    DoubleClick(Hwnd(), 150, MidY(2)); // C, a leaf
+    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+}
+
+// ---- List-box messages ------------------------------------------------------------
+
+TEST_F(TreeListTest, GetTextAndLengthReadTheNodes) {
+    BuildSample();
+    char16_t buffer[16] = {};
+    EXPECT_EQ(1, SendMessageW(Hwnd(), LB_GETTEXT, 1, reinterpret_cast<LPARAM>(buffer)));
+    EXPECT_EQ(std::u16string(u"B"), buffer);
+    EXPECT_EQ(1, SendMessageW(Hwnd(), LB_GETTEXTLEN, 2, 0));
+    EXPECT_EQ(LB_ERR, SendMessageW(Hwnd(), LB_GETTEXTLEN, 3, 0));
+    EXPECT_EQ(LB_ERR, SendMessageW(Hwnd(), LB_GETTEXT, 3, reinterpret_cast<LPARAM>(buffer)));
+    EXPECT_EQ(LB_ERR, SendMessageW(Hwnd(), LB_GETTEXT, 0, 0));
+}
+
+TEST_F(TreeListTest, FindMessagesSearchTheShownRows) {
+    BuildSample();
+    list->Expand(0); // A, A1, A2, B, C
+    list->AddItem(S(u"Motor\tBOOL"), 6, 6, 0);
+    list->AddItem(S(u"Motors\tINT"), 6, 6, 0);
+    struct Case {
+        const char* name;
+        UINT message;
+        const char16_t* text;
+        LRESULT expected;
+    } cases[] = {
+        {"prefix, case-blind", LB_FINDSTRING, u"a2", 2},
+        {"prefix matches a parent", LB_FINDSTRING, u"a", 0},
+        {"prefix across the tab", LB_FINDSTRING, u"motor\tb", 5},
+        {"hidden rows are not found", LB_FINDSTRING, u"a1b", LB_ERR},
+        {"exact name before the tab", LB_FINDSTRINGEXACT, u"MOTORS", 6},
+        {"exact name, shorter sibling first", LB_FINDSTRINGEXACT, u"motor", 5},
+        {"exact takes the first column only", LB_FINDSTRINGEXACT, u"Motor\tBOOL", LB_ERR},
+        {"exact parent", LB_FINDSTRINGEXACT, u"a1", 1},
+        {"select-string searches exactly", LB_SELECTSTRING, u"b", 3},
+        {"empty key", LB_FINDSTRING, u"", LB_ERR},
+        {"no match", LB_FINDSTRING, u"valve", LB_ERR},
+    };
+    Select(4);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_EQ(c.expected, SendMessageW(Hwnd(), c.message, static_cast<WPARAM>(-1),
+                                           reinterpret_cast<LPARAM>(c.text)));
+    }
+    EXPECT_EQ(4, Selected()) << "LB_SELECTSTRING leaves the selection alone";
+}
+
+TEST_F(TreeListTest, FindNoCaseChildStringTakesAPrefixLength) {
+    BuildSample();
+    list->Expand(0);
+    EXPECT_EQ(1, list->FindNoCaseChildString(S(u"A1xyz"), 2, 1));
+    EXPECT_EQ(-1, list->FindNoCaseChildString(S(u"A1xyz"), 2, 0))
+        << "without matchParents only leaves are candidates, and A1a and A1b do not show";
+    EXPECT_EQ(-1, list->FindNoCaseChildString(S(u"x"), 0, 1)) << "length 0";
+    CString found;
+    EXPECT_EQ(3, list->FindNoCaseChildStringItem(S(u"b"), found, 1, 1, 0));
+    EXPECT_EQ(CString(u"B"), found);
+}
+
+// ---- XML ------------------------------------------------------------------------------
+
+std::string Narrow(const std::u16string& s) {
+    return std::string(s.begin(), s.end());
+}
+
+std::string Node(int id, bool expanded, bool selected, const char* text, const char* parentText) {
+    return "<HbxListNode><id>" + std::to_string(id) + "</id><expanded>" +
+           (expanded ? "true" : "false") + "</expanded><selected>" + (selected ? "true" : "false") +
+           "</selected><text>" + text + "</text><parent>" + parentText + "</parent></HbxListNode>";
+}
+
+TEST_F(TreeListTest, XmlDumpOfTheShownRows) {
+    BuildSample();
+    list->Expand(0);
+    list->SetDisplayText(2, S(u"A2 <&>"));
+    Select(2);
+    const std::string expected =
+        "<HbxTreeList>" + Node(0, true, false, "A", "") + Node(1, false, false, "A1", "A") +
+        Node(2, false, true, "A2 &lt;&amp;&gt;", "A") + Node(3, false, false, "B", "") +
+        Node(4, false, false, "C", "") + "</HbxTreeList>";
+    EXPECT_EQ(expected, Narrow(list->XmlGetString()));
+
+    Select(-1);
+    const std::string none = Narrow(list->XmlGetString());
+    EXPECT_EQ(std::string::npos, none.find("<selected>true")) << none;
+    list->ResetTreeContents();
+    EXPECT_EQ("<HbxTreeList></HbxTreeList>", Narrow(list->XmlGetString()));
+}
+
+} // namespace
+} // namespace treetest

@@ -1,0 +1,181 @@
+#pragma once
+// A plain Win32 parent window for the tree controls' tests: it records the
+// WM_COMMAND notifications it is sent, and helpers drive a control with real
+// messages and read its rows back.
+#include <windows.h>
+
+#include "framework/win/Wide.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace treetest {
+
+struct Command {
+    int id;
+    int code;
+    HWND from;
+};
+
+class ParentWindow {
+public:
+    ParentWindow(int width = 400, int height = 300) {
+        static bool registered = false;
+        if (!registered) {
+            WNDCLASSW wc{};
+            wc.lpfnWndProc = &ParentWindow::Proc;
+            wc.hInstance = GetModuleHandleW(nullptr);
+            wc.lpszClassName = L"VuTreeTestParent";
+            wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+            RegisterClassW(&wc);
+            registered = true;
+        }
+        m_hWnd = CreateWindowExW(0, L"VuTreeTestParent", L"tree test", WS_OVERLAPPEDWINDOW, 0, 0,
+                                 width, height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
+    }
+    ~ParentWindow() {
+        if (IsWindow(m_hWnd))
+            DestroyWindow(m_hWnd);
+    }
+    ParentWindow(const ParentWindow&) = delete;
+    ParentWindow& operator=(const ParentWindow&) = delete;
+
+    HWND Handle() const { return m_hWnd; }
+    std::vector<Command> commands;
+
+    int CountCommands(int code) const {
+        int n = 0;
+        for (const Command& c : commands)
+            if (c.code == code)
+                ++n;
+        return n;
+    }
+
+private:
+    static LRESULT CALLBACK Proc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_NCCREATE) {
+            auto* cs = reinterpret_cast<CREATESTRUCTW*>(lParam);
+            SetWindowLongPtrW(hWnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(cs->lpCreateParams));
+        }
+        auto* self = reinterpret_cast<ParentWindow*>(GetWindowLongPtrW(hWnd, GWLP_USERDATA));
+        if (message == WM_COMMAND && self != nullptr)
+            self->commands.push_back(
+                {LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
+        return DefWindowProcW(hWnd, message, wParam, lParam);
+    }
+
+    HWND m_hWnd = nullptr;
+};
+
+inline void PumpMessages() {
+    MSG msg;
+    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&msg);
+        DispatchMessageW(&msg);
+    }
+}
+
+inline void Key(HWND hWnd, UINT vk) {
+    SendMessageW(hWnd, WM_KEYDOWN, vk, 1);
+    SendMessageW(hWnd, WM_KEYUP, vk, 0xC0000001);
+}
+
+inline void Click(HWND hWnd, int x, int y) {
+    SendMessageW(hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    SendMessageW(hWnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+}
+
+inline void DoubleClick(HWND hWnd, int x, int y) {
+    SendMessageW(hWnd, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(x, y));
+    SendMessageW(hWnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+}
+
+// The rows as the list box reports them through LB_GETTEXT.
+inline std::vector<std::u16string> RowTexts(HWND hWnd) {
+    std::vector<std::u16string> rows;
+    const int count = static_cast<int>(SendMessageW(hWnd, LB_GETCOUNT, 0, 0));
+    for (int i = 0; i < count; ++i) {
+        const LRESULT length = SendMessageW(hWnd, LB_GETTEXTLEN, i, 0);
+        if (length < 0) {
+            rows.push_back(u"<error>");
+            continue;
+        }
+        std::u16string text(static_cast<size_t>(length) + 1, u'\0');
+        SendMessageW(hWnd, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()));
+        text.resize(static_cast<size_t>(length));
+        rows.push_back(text);
+    }
+    return rows;
+}
+
+// A 32-bit top-down picture of a window's client area, drawn by the window
+// itself through WM_PRINTCLIENT.
+class ClientPicture {
+public:
+    explicit ClientPicture(HWND hWnd) {
+        RECT rc{};
+        GetClientRect(hWnd, &rc);
+        m_width = rc.right;
+        m_height = rc.bottom;
+        BITMAPINFO bi{};
+        bi.bmiHeader.biSize = sizeof(bi.bmiHeader);
+        bi.bmiHeader.biWidth = m_width;
+        bi.bmiHeader.biHeight = -m_height;
+        bi.bmiHeader.biPlanes = 1;
+        bi.bmiHeader.biBitCount = 32;
+        HDC screen = GetDC(nullptr);
+        m_dc = CreateCompatibleDC(screen);
+        ReleaseDC(nullptr, screen);
+        m_bitmap = CreateDIBSection(m_dc, &bi, DIB_RGB_COLORS, reinterpret_cast<void**>(&m_bits),
+                                    nullptr, 0);
+        m_old = SelectObject(m_dc, m_bitmap);
+        HBRUSH white = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
+        FillRect(m_dc, &rc, white);
+        SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(m_dc),
+                     PRF_CLIENT | PRF_ERASEBKGND);
+        GdiFlush();
+    }
+    ~ClientPicture() {
+        SelectObject(m_dc, m_old);
+        DeleteObject(m_bitmap);
+        DeleteDC(m_dc);
+    }
+    ClientPicture(const ClientPicture&) = delete;
+    ClientPicture& operator=(const ClientPicture&) = delete;
+
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+    // As a COLORREF (red in the low byte).
+    COLORREF At(int x, int y) const {
+        if (x < 0 || y < 0 || x >= m_width || y >= m_height)
+            return CLR_INVALID;
+        const DWORD p = m_bits[y * m_width + x];
+        return RGB((p >> 16) & 0xFF, (p >> 8) & 0xFF, p & 0xFF);
+    }
+    // Leftmost x in rows [top, bottom) whose colour differs from background; -1 if none.
+    int FirstInkX(int top, int bottom, COLORREF background) const {
+        for (int x = 0; x < m_width; ++x)
+            for (int y = top; y < bottom; ++y)
+                if (At(x, y) != background)
+                    return x;
+        return -1;
+    }
+    bool HasColour(int left, int top, int right, int bottom, COLORREF colour) const {
+        for (int y = top; y < bottom; ++y)
+            for (int x = left; x < right; ++x)
+                if (At(x, y) == colour)
+                    return true;
+        return false;
+    }
+
+private:
+    int m_width = 0;
+    int m_height = 0;
+    HDC m_dc = nullptr;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_old = nullptr;
+    DWORD* m_bits = nullptr;
+};
+
+} // namespace treetest
