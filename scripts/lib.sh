@@ -26,3 +26,4 @@ ensure_packages() {
 configure_native() { (cd "$ROOT" && cmake --preset native); }
 configure_windows() { (cd "$ROOT" && cmake --preset windows); }
 configure_fuzz() { (cd "$ROOT" && cmake --preset fuzz); }
+configure_asan() { (cd "$ROOT" && cmake --preset asan); }
