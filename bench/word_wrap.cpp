@@ -7,19 +7,18 @@
 // text, the naive one builds line strings), and wrapping followed by the
 // joined text with soft breaks, which is what an editor asks for.
 //
-// The prose is generated (deterministic, English word frequencies roughly
-// Zipfian, sentences and paragraphs with hard breaks) so that the benchmark
-// needs no data files.
+// The prose is the Perl documentation (Debian's perl-doc), see
+// support/Corpus.h, reshaped into paragraphs with hard breaks between them.
 //
 // As in the XML benchmark, freed memory is kept in the heap so that fresh
 // page faults do not swamp the figures; VU_BENCH_COLD_MEMORY=1 turns that off.
+#include "support/Corpus.h"
 #include "text/WordWrappedString.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
 #include <cstdlib>
-#include <random>
 #include <string>
 #include <vector>
 #if defined(__GLIBC__)
@@ -30,97 +29,29 @@ namespace {
 
 constexpr size_t kMi = 1 << 20;
 
-std::u16string GenerateProse(size_t length) {
-    static const char16_t* const words[] = {u"the",
-                                            u"of",
-                                            u"and",
-                                            u"to",
-                                            u"a",
-                                            u"in",
-                                            u"is",
-                                            u"that",
-                                            u"it",
-                                            u"was",
-                                            u"for",
-                                            u"on",
-                                            u"with",
-                                            u"as",
-                                            u"by",
-                                            u"be",
-                                            u"this",
-                                            u"which",
-                                            u"from",
-                                            u"at",
-                                            u"or",
-                                            u"have",
-                                            u"an",
-                                            u"not",
-                                            u"are",
-                                            u"but",
-                                            u"were",
-                                            u"their",
-                                            u"one",
-                                            u"all",
-                                            u"there",
-                                            u"been",
-                                            u"when",
-                                            u"would",
-                                            u"more",
-                                            u"so",
-                                            u"into",
-                                            u"time",
-                                            u"only",
-                                            u"other",
-                                            u"could",
-                                            u"after",
-                                            u"motor",
-                                            u"conveyor",
-                                            u"routine",
-                                            u"controller",
-                                            u"program",
-                                            u"signal",
-                                            u"pressure",
-                                            u"temperature",
-                                            u"between",
-                                            u"afterwards",
-                                            u"operator",
-                                            u"sequence",
-                                            u"interlocking",
-                                            u"configuration",
-                                            u"maintenance",
-                                            u"approximately",
-                                            u"responsibility",
-                                            u"notwithstanding",
-                                            u"characteristically",
-                                            u"instrumentation"};
-    std::mt19937 rng(1234);
-    // Zipf-like: the k-th word with weight 1/(k+1).
-    std::vector<double> weights;
-    for (size_t k = 0; k < std::size(words); ++k)
-        weights.push_back(1.0 / static_cast<double>(k + 1));
-    std::discrete_distribution<size_t> pick(weights.begin(), weights.end());
-    std::uniform_int_distribution<int> sentenceLength(4, 24), paragraphLength(2, 7);
-
+// The documentation as an editor would hold it: paragraphs as single long
+// lines separated by blank lines with hard breaks, tabs as spaces.
+std::u16string EditorText(std::u16string_view source) {
     std::u16string text;
-    text.reserve(length + 200);
-    while (text.size() < length) {
-        for (int s = paragraphLength(rng); s > 0; --s) {
-            for (int w = sentenceLength(rng); w > 0; --w) {
-                std::u16string word = words[pick(rng)];
-                if (text.empty() || text.back() == u'\n' || text.ends_with(u". "))
-                    word[0] = static_cast<char16_t>(word[0] - u'a' + u'A');
-                text += word;
-                text += w == 1 ? u". " : (rng() % 12 == 0 ? u", " : u" ");
-            }
+    text.reserve(source.size() + source.size() / 16);
+    for (size_t i = 0; i < source.size(); ++i) {
+        if (source[i] == u'\n' && i + 1 < source.size() && source[i + 1] == u'\n') {
+            text += u"\r\n\r\n";
+            while (i + 1 < source.size() && source[i + 1] == u'\n')
+                ++i;
+        } else if (source[i] == u'\n' || source[i] == u'\t' || source[i] == u'\r') {
+            text += u' ';
+        } else {
+            text += source[i];
         }
-        text += u"\r\n\r\n";
     }
-    text.resize(length);
     return text;
 }
 
 const std::u16string& Prose(size_t length) {
-    static const std::u16string small = GenerateProse(kMi), large = GenerateProse(10 * kMi);
+    static const std::u16string large =
+        EditorText(vu::bench::LoadEnglishCorpus(11 * kMi)).substr(0, 10 * kMi);
+    static const std::u16string small = large.substr(0, kMi);
     return length == kMi ? small : large;
 }
 
@@ -163,10 +94,12 @@ std::vector<std::u16string> NaiveWrap(const std::u16string& text, size_t width) 
             lines.push_back(line + t);
             line.clear();
         } else {
+            // A word cut on an empty line leaves no full piece open.
+            const size_t open = line.empty() ? width - 1 : width;
             if (!line.empty())
                 lines.push_back(line);
             line = t;
-            while (line.size() > width) {
+            while (line.size() > open) {
                 lines.push_back(line.substr(0, width));
                 line.erase(0, width);
             }
