@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // Builds an XML document as UTF-16 text in memory, forward only: open an
@@ -83,6 +84,11 @@ private:
         Buffer() = default;
         Buffer(const Buffer& other);
         Buffer& operator=(const Buffer& other);
+        Buffer(Buffer&& other) noexcept { Swap(other); }
+        Buffer& operator=(Buffer&& other) noexcept {
+            Swap(other);
+            return *this;
+        }
         ~Buffer();
         // Room for n more characters at the end, counted as written.
         char16_t* Extend(size_t n) {
@@ -97,6 +103,11 @@ private:
 
     private:
         void Grow(size_t n);
+        void Swap(Buffer& other) noexcept {
+            std::swap(m_data, other.m_data);
+            std::swap(m_size, other.m_size);
+            std::swap(m_capacity, other.m_capacity);
+        }
         char16_t* m_data = nullptr;
         size_t m_size = 0;
         size_t m_capacity = 0;

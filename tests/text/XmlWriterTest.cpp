@@ -5,6 +5,7 @@
 #include <climits>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -201,6 +202,18 @@ TEST(XmlWriter, EndElementWithNothingOpen) {
 }
 
 // ---- Taking the text out --------------------------------------------------------------
+
+TEST(XmlWriter, CopiesAndMovesCarryTheOpenElements) {
+    Writer w;
+    w.WriteStartElement(u"a");
+    Writer copy(w);
+    copy.WriteStartElement(u"b");
+    Writer moved(std::move(copy));
+    moved.Close();
+    w.Close();
+    EXPECT_EQ(moved.Out(), u"<a><b></b></a>");
+    EXPECT_EQ(w.Out(), u"<a></a>");
+}
 
 TEST(XmlWriter, FormattedBreaksAfterEveryGreaterThanAndChangesNothing) {
     Writer w;
