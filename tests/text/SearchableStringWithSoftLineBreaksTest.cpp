@@ -19,12 +19,15 @@ Selection SelectionOf(const Soft& s) {
     return r;
 }
 
+Soft Make(const std::u16string& text, Selection selection = {0, -1}) {
+    return Soft(CString(text), selection.first, selection.second);
+}
+
 // ---- Construction and assignment ----------------------------------------------
 
 TEST(SoftBreaksConstruction, DefaultHasNoSelectionAndOthersACaretAtZero) {
-    Soft empty;
-    EXPECT_EQ(SelectionOf(empty), Selection(-1, -1));
-    EXPECT_EQ(empty.ReplaceSelectionWith(u"x"), 0);
+    EXPECT_EQ(SelectionOf(Soft()), Selection(-1, -1));
+    EXPECT_EQ(Soft().ReplaceSelectionWith(u"x"), 0);
     const unsigned char bytes[] = {'a', 0xE9, 0};
     const struct {
         const char* name;
@@ -33,19 +36,17 @@ TEST(SoftBreaksConstruction, DefaultHasNoSelectionAndOthersACaretAtZero) {
     } rows[] = {
         {"string", Soft(CString(u"ab")), u"ab"},   {"repeat", Soft(u'z', 3), u"zzz"},
         {"counted", Soft(u"abcdef", 2), u"ab"},    {"unsigned bytes", Soft(bytes), u"a\u00e9"},
-        {"utf16", Soft(u"x\r\r\ny"), u"x\r\r\ny"}, {"bytes", Soft("q"), u"q"},
-    };
+        {"utf16", Soft(u"x\r\r\ny"), u"x\r\r\ny"}, {"bytes", Soft("q"), u"q"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(row.s.Str(), row.text);
         EXPECT_EQ(SelectionOf(row.s), Selection(0, -1));
         EXPECT_FALSE(row.s.WereSoftLineBreaksRemoved());
     }
-    EXPECT_EQ(SelectionOf(Soft(CString(u"abc"), 1, 2)), Selection(1, 2));
 }
 
 TEST(SoftBreaksConstruction, CopyKeepsTheBreakStateAndAssigningTextResetsIt) {
-    Soft s(u"ab\r\r\ncd", 5, 6);
+    Soft s = Make(u"ab\r\r\ncd", {5, 6});
     s.SetTokenDelimiters(u"|");
     s.RemoveSoftLineBreaks();
     Soft copy(s);
@@ -70,20 +71,17 @@ TEST(SoftBreaksCycle, RemoveAndReInsertRestoreTheText) {
         const char* name;
         std::u16string text, removed;
         int count;
-    } rows[] = {
-        {"one in the middle", u"ab\r\r\ncd", u"abcd", 1},
-        {"at the start", u"\r\r\nab", u"ab", 1},
-        {"at the end", u"ab\r\r\n", u"ab", 1},
-        {"adjacent", u"a\r\r\n\r\r\nb", u"ab", 2},
-        {"after a lone CR", u"a\r\r\r\nb", u"a\rb", 1},
-        {"hard break only", u"a\r\nb", u"a\r\nb", 0},
-        {"empty", u"", u"", 0},
-    };
+    } rows[] = {{"one in the middle", u"ab\r\r\ncd", u"abcd", 1},
+                {"at the start", u"\r\r\nab", u"ab", 1},
+                {"at the end", u"ab\r\r\n", u"ab", 1},
+                {"adjacent", u"a\r\r\n\r\r\nb", u"ab", 2},
+                {"after a lone CR", u"a\r\r\r\nb", u"a\rb", 1},
+                {"hard break only", u"a\r\nb", u"a\r\nb", 0},
+                {"empty", u"", u"", 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        Soft s(row.text.c_str(), static_cast<int>(row.text.size()));
+        Soft s = Make(row.text);
         EXPECT_EQ(s.RemoveSoftLineBreaks(), row.count);
-        EXPECT_EQ(s.Str(), row.removed);
         EXPECT_EQ(s.RemoveSoftLineBreaks(), row.count) << "a second removal changes nothing";
         EXPECT_EQ(s.Str(), row.removed);
         EXPECT_EQ(s.ReInsertSoftLineBreaks(), row.count);
@@ -96,58 +94,43 @@ TEST(SoftBreaksCycle, ReplacementsStandInTurnAndCountPositions) {
     Soft s(u"ab\r\r\ncd\r\r\nef");
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(2), 0);
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(3), 1);
-    EXPECT_EQ(s.GetNumberOfSoftLineBreaks(8), 2);
     EXPECT_EQ(s.ReplaceSoftLineBreaksWith(u"<br>"), 2);
     EXPECT_EQ(s.Str(), u"ab<br>cd<br>ef");
-    EXPECT_FALSE(s.WereSoftLineBreaksRemoved());
     EXPECT_EQ(s.ReplaceSoftLineBreaksWith(u"|"), 2) << "replaces the replacement, not a soft break";
     EXPECT_EQ(s.Str(), u"ab|cd|ef");
     EXPECT_EQ(s.RemoveSoftLineBreaks(), 2);
     EXPECT_EQ(s.Str(), u"abcdef");
-    EXPECT_EQ(s.GetNumberOfSoftLineBreaks(4), 1);
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(5), 2);
     EXPECT_EQ(s.ReInsertSoftLineBreaks(), 2);
     EXPECT_EQ(s.Str(), u"ab\r\r\ncd\r\r\nef");
 }
 
 TEST(SoftBreaksCycle, SelectionFollowsTheBreaks) {
+    // Each break is compared with the bounds as the breaks before it left
+    // them, and a start at a break's position stays before the break.
     const struct {
         const char* name;
         std::u16string text;
-        Selection before, removed;
-    } rows[] = {
-        {"after the break", u"ab\r\r\ncd", {5, 6}, {2, 3}},
-        {"before the break", u"ab\r\r\ncd", {0, 1}, {0, 1}},
-        {"none", u"ab\r\r\ncd", {-1, -1}, {-1, -1}},
-        {"caret without end", u"ab\r\r\ncd", {5, -1}, {5, -1}},
-        // Each break is compared with the bounds as the earlier breaks left them.
-        {"two breaks, moved bounds compared", u"ab\r\r\ncd\r\r\nef", {10, 11}, {7, 5}},
-    };
+        Selection before, removed, back;
+    } rows[] = {{"inside a line", u"ab\r\r\ncd", {6, 6}, {3, 3}, {6, 6}},
+                {"at a line start", u"ab\r\r\ncd", {5, 6}, {2, 3}, {2, 6}},
+                {"none", u"ab\r\r\ncd", {-1, -1}, {-1, -1}, {-1, -1}},
+                {"caret without end", u"ab\r\r\ncd", {5, -1}, {5, -1}, {5, -1}},
+                {"two breaks", u"ab\r\r\ncd\r\r\nef", {10, 11}, {7, 5}, {13, 11}}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        Soft s(row.text.c_str(), row.before.first, row.before.second);
+        Soft s = Make(row.text, row.before);
         s.RemoveSoftLineBreaks();
         EXPECT_EQ(SelectionOf(s), row.removed);
-    }
-    // Back again: a start at the break position stays before the break, so a
-    // selection that began a line comes back at the end of the line before.
-    const struct {
-        const char* name;
-        Selection before, after;
-    } trips[] = {{"inside the line", {6, 6}, {6, 6}}, {"at the line start", {5, 6}, {2, 6}}};
-    for (const auto& trip : trips) {
-        SCOPED_TRACE(trip.name);
-        Soft s(u"ab\r\r\ncd", trip.before.first, trip.before.second);
-        s.RemoveSoftLineBreaks();
         s.ReInsertSoftLineBreaks();
-        EXPECT_EQ(SelectionOf(s), trip.after);
+        EXPECT_EQ(SelectionOf(s), row.back);
     }
 }
 
 // ---- Wrapping ------------------------------------------------------------------------
 
 TEST(SoftBreaksWrap, WrapsRewrapsAndKeepsHardBreaks) {
-    Soft s(u"hello world", 11, 11);
+    Soft s = Make(u"hello world", {11, 11});
     EXPECT_EQ(s.WordWrapText(5), 1);
     EXPECT_EQ(s.Str(), u"hello \r\r\nworld");
     EXPECT_EQ(SelectionOf(s), Selection(14, 14)) << "the caret at the end stays at the end";
@@ -161,9 +144,13 @@ TEST(SoftBreaksWrap, WrapsRewrapsAndKeepsHardBreaks) {
     EXPECT_EQ(s.Str(), u"hello world again");
 
     // Three breaks out move the caret short of the end; it is put back there.
-    s = Soft(u"a\r\r\nb\r\r\nc\r\r\nd", 13, 13);
+    s = Make(u"a\r\r\nb\r\r\nc\r\r\nd", {13, 13});
     EXPECT_EQ(s.WordWrapText(-1), 0);
     EXPECT_EQ(SelectionOf(s), Selection(4, 4));
+
+    s = Make(u"hello world", {8, 9});
+    s.WordWrapText(5);
+    EXPECT_EQ(SelectionOf(s), Selection(11, 12));
 
     s = u"x\r\ny";
     EXPECT_EQ(s.WordWrapText(1), 0) << "no soft break after a hard one";
@@ -175,20 +162,10 @@ TEST(SoftBreaksWrap, WrapsRewrapsAndKeepsHardBreaks) {
     EXPECT_EQ(s.Str(), u"abcd");
 }
 
-TEST(SoftBreaksWrap, SelectionInsideTheTextMovesPastNewBreaks) {
-    Soft s(u"hello world", 8, 9);
-    s.WordWrapText(5);
-    EXPECT_EQ(SelectionOf(s), Selection(11, 12));
-    s = Soft(u"hello world", 2, 3);
-    s.WordWrapText(5);
-    EXPECT_EQ(SelectionOf(s), Selection(2, 3));
-}
-
 // ---- Searching across soft breaks ------------------------------------------------------
 
 TEST(SoftBreaksSearch, PositionsCountTheTextWithoutBreaks) {
-    // Searches return positions in "abcd"; the selection is then moved past
-    // the soft break that is put back.
+    // Found in "abcd"; the selection then moves past the break put back.
     const struct {
         const char* name;
         int (*search)(Soft&);
@@ -204,6 +181,11 @@ TEST(SoftBreaksSearch, PositionsCountTheTextWithoutBreaks) {
         {"ReverseFindNoCase text", [](Soft& s) { return s.ReverseFindNoCase(u"CD"); }, 2, {2, 7}},
         {"ReverseFindNoCase char", [](Soft& s) { return s.ReverseFindNoCase(u'A'); }, 0, {0, 1}},
         {"absent", [](Soft& s) { return s.Find(u"x"); }, -1, {-1, -1}},
+        {"FindN on the text as it stands", [](Soft& s) { return s.FindN(u'c', 0, 10); }, 5, {5, 6}},
+        {"FindN absent: the length", [](Soft& s) { return s.FindN(u'z', 0, 10); }, 7, {7, 7}},
+        // The regular expression search returns the selection start.
+        {"FindRegularExp", [](Soft& s) { return s.FindRegularExp(u"c."); }, 2, {2, 6}},
+        {"FindRegularExp absent", [](Soft& s) { return s.FindRegularExp(u"z"); }, 7, {7, 7}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -212,6 +194,9 @@ TEST(SoftBreaksSearch, PositionsCountTheTextWithoutBreaks) {
         EXPECT_EQ(SelectionOf(s), row.selection);
         EXPECT_EQ(s.Str(), u"ab\r\r\ncd") << "the soft break stays in place";
     }
+    Soft plain(u"abbbc");
+    EXPECT_EQ(plain.FindRegularExp(u"b+", 0), 1);
+    EXPECT_EQ(SelectionOf(plain), Selection(1, 2)) << "the pattern's length, not the match's";
 }
 
 TEST(SoftBreaksSearch, WholeWordsAreJudgedWithoutTheBreaks) {
@@ -222,38 +207,9 @@ TEST(SoftBreaksSearch, WholeWordsAreJudgedWithoutTheBreaks) {
     EXPECT_EQ(s.Find(u"catdog", 0, TRUE), 0);
 }
 
-TEST(SoftBreaksSearch, FindNAndRegularExpressionsReportNotFoundAsTheLength) {
-    Soft s(u"ab\r\r\ncd");
-    EXPECT_EQ(s.FindN(u'c', 0, 10), 5) << "FindN searches the text as it stands";
-    EXPECT_EQ(SelectionOf(s), Selection(5, 6));
-    EXPECT_EQ(s.FindN(u'z', 0, 10), 7);
-    EXPECT_EQ(SelectionOf(s), Selection(7, 7));
-
-    EXPECT_EQ(s.FindRegularExp(u"c.", 0), 2);
-    EXPECT_EQ(SelectionOf(s), Selection(2, 6));
-    EXPECT_EQ(s.FindRegularExp(u"z", 0), 7) << "the selection start, at the text length";
-    EXPECT_EQ(s.Str(), u"ab\r\r\ncd");
-
-    Soft plain(u"abbbc");
-    EXPECT_EQ(plain.FindRegularExp(u"b+", 0), 1);
-    EXPECT_EQ(SelectionOf(plain), Selection(1, 2)) << "the pattern's length, not the match's";
-}
-
 // ---- Replacing ------------------------------------------------------------------------
 
-TEST(SoftBreaksReplace, SelectionEndIsInclusive) {
-    Soft s(u"abc");
-    s.SetSelection(0, 1);
-    EXPECT_EQ(s.ReplaceSelectionWith(u"x"), 1);
-    EXPECT_EQ(s.Str(), u"xc");
-    EXPECT_EQ(SelectionOf(s), Selection(0, 0));
-
-    Soft caret(u"abc");
-    EXPECT_EQ(caret.ReplaceSelectionWith(u"x"), 1) << "(0, -1) is a caret: insert";
-    EXPECT_EQ(caret.Str(), u"xabc");
-}
-
-TEST(SoftBreaksReplace, SingleReplacementTakesTheFollowingCharacter) {
+TEST(SoftBreaksReplace, SingleReplacementTakesTheCharacterAfterTheMatch) {
     const struct {
         const char* name;
         std::u16string text;
@@ -266,20 +222,24 @@ TEST(SoftBreaksReplace, SingleReplacementTakesTheFollowingCharacter) {
         {"whole word honoured", u"concat cat", u"cat", u"dog", TRUE, FALSE, 1, u"concat dog"},
         {"first match otherwise", u"concat cat", u"cat", u"dog", FALSE, FALSE, 1, u"condogcat"},
         {"absent", u"abc", u"x", u"y", FALSE, FALSE, 0, u"abc"},
-        {"soft break kept after the edit", u"ab cd \r\r\nef", u"ab", u"xyz", FALSE, FALSE, 1,
-         u"xyzcd \r\r\nef"},
-        {"break inside the replaced text", u"ab\r\r\ncd ef", u"bc", u"", FALSE, FALSE, 1,
-         u"a\r\r\n ef"},
+        {"break after the edit kept", u"ab cd \r\r\nef", u"ab", u"xyz", 0, 0, 1, u"xyzcd \r\r\nef"},
+        {"break inside the edit kept", u"ab\r\r\ncd ef", u"bc", u"", 0, 0, 1, u"a\r\r\n ef"},
         {"no-case form matches exactly", u"Aa", u"a", u"x", FALSE, TRUE, 1, u"Ax"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        Soft s(row.text.c_str(), static_cast<int>(row.text.size()));
+        Soft s = Make(row.text);
         const int count = row.noCase ? s.FindReplaceNoCase(row.find, row.by, FALSE, row.wholeWord)
                                      : s.FindReplace(row.find, row.by, FALSE, row.wholeWord);
         EXPECT_EQ(count, row.count);
         EXPECT_EQ(s.Str(), row.result);
     }
+    Soft s = Make(u"abc", {0, 1});
+    EXPECT_EQ(s.ReplaceSelectionWith(u"x"), 1);
+    EXPECT_EQ(s.Str(), u"xc");
+    EXPECT_EQ(SelectionOf(s), Selection(0, 0));
+    EXPECT_EQ(s.ReplaceSelectionWith(u"yz"), 1);
+    EXPECT_EQ(s.Str(), u"yzc");
 }
 
 TEST(SoftBreaksReplace, ReplaceAllWorksWithoutBreaksAndLeavesThemOut) {
@@ -287,16 +247,13 @@ TEST(SoftBreaksReplace, ReplaceAllWorksWithoutBreaksAndLeavesThemOut) {
     EXPECT_EQ(s.FindReplace(u"cat", u"dog", TRUE), 2);
     EXPECT_EQ(s.Str(), u"a dogdog");
     EXPECT_EQ(SelectionOf(s), Selection(8, 8));
-
     s = u"a\r\r\nAa";
     EXPECT_EQ(s.FindReplaceNoCase(u"A", u"xy", TRUE), 3);
     EXPECT_EQ(s.Str(), u"xyxyxy");
-
     s = u"ab\r\r\nbc";
     EXPECT_EQ(s.FindReplaceRegularExp(u"b+", u"&", TRUE), 1);
     EXPECT_EQ(s.Str(), u"a&c");
     EXPECT_EQ(SelectionOf(s), Selection(3, 3));
-
     s = u"ab\r\r\ncd";
     EXPECT_EQ(s.FindReplaceRegularExp(u"z", u"y", TRUE), 0);
     EXPECT_EQ(s.Str(), u"ab\r\r\ncd") << "nothing replaced: the break is put back";
@@ -309,16 +266,14 @@ TEST(SoftBreaksEdit, EditsUseUnbrokenPositionsAndResetTheState) {
         const char* name;
         void (*edit)(Soft&);
         std::u16string result;
-    } rows[] = {
-        {"InsertAt text", [](Soft& s) { s.InsertAt(2, u"XY"); }, u"abXYcd"},
-        {"InsertAt char", [](Soft& s) { s.InsertAt(3, u'X'); }, u"abcXd"},
-        {"InsertAt past the end", [](Soft& s) { s.InsertAt(6, u'X'); }, u"abcd  X"},
-        {"DeleteAt", [](Soft& s) { s.DeleteAt(1, 2); }, u"ad"},
-        {"ReplaceAt", [](Soft& s) { s.ReplaceAt(1, 2, u"-"); }, u"a-d"},
-    };
+    } rows[] = {{"InsertAt text", [](Soft& s) { s.InsertAt(2, u"XY"); }, u"abXYcd"},
+                {"InsertAt char", [](Soft& s) { s.InsertAt(3, u'X'); }, u"abcXd"},
+                {"InsertAt past the end", [](Soft& s) { s.InsertAt(6, u'X'); }, u"abcd  X"},
+                {"DeleteAt", [](Soft& s) { s.DeleteAt(1, 2); }, u"ad"},
+                {"ReplaceAt", [](Soft& s) { s.ReplaceAt(1, 2, u"-"); }, u"a-d"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        Soft s(u"ab\r\r\ncd", 5, 6);
+        Soft s = Make(u"ab\r\r\ncd", {5, 6});
         row.edit(s);
         EXPECT_EQ(s.Str(), row.result);
         EXPECT_EQ(SelectionOf(s), Selection(0, -1));
@@ -328,7 +283,7 @@ TEST(SoftBreaksEdit, EditsUseUnbrokenPositionsAndResetTheState) {
 
 TEST(SoftBreaksFields, FieldsComeFromTheTextWithoutBreaks) {
     static_assert(std::is_same_v<decltype(Soft().GetField(u',', 0)), Soft>);
-    Soft s(u"a,b\r\r\nc,d", 1, 2);
+    Soft s = Make(u"a,b\r\r\nc,d", {1, 2});
     EXPECT_EQ(s.GetFieldCount(u','), 3);
     EXPECT_EQ(s.GetFieldCount(u"\r\n"), 1);
     EXPECT_EQ(s.GetField(u',', 1).Str(), u"bc");
