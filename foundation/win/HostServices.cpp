@@ -8,16 +8,16 @@ VU_CHostServices g_defaultServices;
 VU_CHostServices* g_pServices = nullptr;
 
 // Opens (or creates) the section's key of the default profile.
-HKEY OpenSectionKey(const char16_t* lpszSection, bool create) {
+HKEY OpenSectionKey(const char16_t* lpszSection, bool create, REGSAM access = KEY_READ) {
     if (lpszSection == nullptr)
         return nullptr;
     CString path = VU_CHostServices::GetDefaultProfileKey() + u"\\" + lpszSection;
     HKEY hKey = nullptr;
-    LONG status =
-        create ? RegCreateKeyExW(HKEY_CURRENT_USER, vu::W(path.GetString()), 0, nullptr,
-                                 REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr, &hKey,
-                                 nullptr)
-               : RegOpenKeyExW(HKEY_CURRENT_USER, vu::W(path.GetString()), 0, KEY_READ, &hKey);
+    LONG status = create
+                      ? RegCreateKeyExW(HKEY_CURRENT_USER, vu::W(path.GetString()), 0, nullptr,
+                                        REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr,
+                                        &hKey, nullptr)
+                      : RegOpenKeyExW(HKEY_CURRENT_USER, vu::W(path.GetString()), 0, access, &hKey);
     return status == ERROR_SUCCESS ? hKey : nullptr;
 }
 
@@ -115,7 +115,7 @@ BOOL VU_CHostServices::WriteProfileString(const char16_t* lpszSection, const cha
         LONG status = RegDeleteTreeW(HKEY_CURRENT_USER, vu::W(path.GetString()));
         return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
     }
-    HKEY hKey = OpenSectionKey(lpszSection, lpszValue != nullptr);
+    HKEY hKey = OpenSectionKey(lpszSection, lpszValue != nullptr, KEY_READ | KEY_WRITE);
     if (hKey == nullptr)
         return lpszValue == nullptr; // nothing to remove
     LONG status;

@@ -1,0 +1,204 @@
+// The library module seen from a host that links it: its instance handle,
+// its strings through the resource chain, the dump context, and the host
+// services' defaults (registry profile, owners, wait cursor).
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "foundation/win/DumpFile.h"
+#include "foundation/win/HostServices.h"
+#include "foundation/win/Library.h"
+#include "framework/win/DumpContext.h"
+#include "framework/win/DynLinkLibrary.h"
+#include "framework/win/Wide.h"
+#include "resources/resource.h"
+#include "support/TestWindow.h"
+
+namespace {
+
+std::u16string Str(const CString& s) {
+    return std::u16string(s.GetString());
+}
+
+TEST(LibraryTest, InstanceHandleIsTheDllsModule) {
+    HMODULE dll = GetModuleHandleW(L"vulib.dll");
+    ASSERT_NE(dll, nullptr);
+    EXPECT_EQ(VuGetInstanceHandle(), dll);
+    EXPECT_EQ(AfxGetInstanceHandle(), dll);
+    VuLibInitialize(); // nothing to do, and harmless
+    EXPECT_EQ(VuGetInstanceHandle(), dll);
+}
+
+TEST(LibraryTest, ChainSearchesTheHostFirstThenTheLibrary) {
+    HINSTANCE modules[8] = {};
+    int count = AfxGetResourceChain(modules, 8);
+    ASSERT_GE(count, 2);
+    EXPECT_EQ(modules[0], GetModuleHandleW(nullptr));
+    EXPECT_EQ(modules[1], VuGetInstanceHandle());
+}
+
+TEST(LibraryTest, StringTableThroughTheChain) {
+    struct Row {
+        UINT id;
+        const char16_t* text;
+    };
+    const Row rows[] = {
+        {2002, u"Fatal Error: "}, {2003, u"\nApplication will terminate."},
+        {2004, u"Condition:"},    {2007, u"OK"},
+        {2008, u"Cancel"},        {2009, u"Help"},
+        {2010, u"Yes"},           {2011, u"No"},
+        {2012, u"Close"},         {2013, u"Retry"},
+        {2014, u"Abort"},         {2015, u"Ignore"},
+        {2016, u"Unknown"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.id);
+        CString text;
+        EXPECT_TRUE(AfxLoadString(row.id, text));
+        EXPECT_EQ(Str(text), row.text);
+        // The same text straight from the library's module.
+        wchar_t buffer[64] = {};
+        int length = LoadStringW(VuGetInstanceHandle(), row.id, buffer, 64);
+        EXPECT_EQ(std::u16string(vu::U(buffer), length), row.text);
+    }
+}
+
+TEST(LibraryTest, MissingStringsLoadAsEmptyAndFalse) {
+    for (UINT id : {2005u, 2006u, 2017u, 1u, 65535u}) {
+        SCOPED_TRACE(id);
+        CString text(u"stale");
+        EXPECT_FALSE(AfxLoadString(id, text));
+        EXPECT_TRUE(text.IsEmpty());
+    }
+}
+
+TEST(LibraryTest, TraceDumpIsMadeOnceAndWritesToTheTempFile) {
+    CDumpContext* dump = VuGetTraceDump();
+    ASSERT_NE(dump, nullptr);
+    EXPECT_EQ(VuGetTraceDump(), dump);
+    auto* file = static_cast<Vu_CDumpFile*>(dump->GetFile());
+    ASSERT_NE(file, nullptr);
+    CString expectedPath = Vu_CDumpFile::DefaultDumpPath();
+    EXPECT_EQ(Str(file->GetDumpPath()), Str(expectedPath));
+    CString name;
+    name.Format(u"\\VuLib-%u.log", static_cast<unsigned>(GetCurrentProcessId()));
+    EXPECT_EQ(Str(expectedPath).substr(expectedPath.GetLength() - name.GetLength()), Str(name));
+
+    *dump << u"trace Ä " << 42 << u" " << -7 << u"\n";
+    dump->Flush();
+    HANDLE h = CreateFileW(vu::W(expectedPath.GetString()), GENERIC_READ,
+                           FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(h, INVALID_HANDLE_VALUE);
+    char bytes[256] = {};
+    DWORD read = 0;
+    ReadFile(h, bytes, sizeof(bytes) - 1, &read, nullptr);
+    CloseHandle(h);
+    EXPECT_NE(std::string(bytes, read).find("trace \xC3\x84 42 -7\n"), std::string::npos);
+}
+
+// ---- host services: defaults ------------------------------------------------------
+
+class DefaultProfileTest : public ::testing::Test {
+protected:
+    void SetUp() override { services.WriteProfileString(kSection, nullptr, nullptr); }
+    void TearDown() override { services.WriteProfileString(kSection, nullptr, nullptr); }
+
+    static constexpr const char16_t* kSection = u"Profile Test Section";
+    VU_CHostServices services;
+};
+
+TEST_F(DefaultProfileTest, KeyIsNamedAfterTheHostExecutable) {
+    EXPECT_EQ(Str(VU_CHostServices::GetDefaultProfileKey()),
+              u"Software\\VuLib\\vulib_foundation_win_tests");
+}
+
+TEST_F(DefaultProfileTest, IntegersAndStringsRoundTripThroughTheRegistry) {
+    EXPECT_EQ(services.GetProfileInt(kSection, u"Splitter", 120), 120u);
+    EXPECT_TRUE(services.WriteProfileInt(kSection, u"Splitter", 345));
+    EXPECT_EQ(services.GetProfileInt(kSection, u"Splitter", 120), 345u);
+    EXPECT_TRUE(services.WriteProfileInt(kSection, u"Negative", -2));
+    EXPECT_EQ(static_cast<int>(services.GetProfileInt(kSection, u"Negative", 0)), -2);
+
+    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Name", u"fallback")), u"fallback");
+    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Name")), u"");
+    EXPECT_TRUE(services.WriteProfileString(kSection, u"Name", u"Rung Ä 7"));
+    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Name", u"fallback")), u"Rung Ä 7");
+    EXPECT_TRUE(services.WriteProfileString(kSection, u"Empty", u""));
+    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Empty", u"fallback")), u"");
+
+    // The value really is in the registry where the documentation says.
+    CString path = VU_CHostServices::GetDefaultProfileKey() + u"\\" + kSection;
+    DWORD value = 0, size = sizeof(value);
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, vu::W(path.GetString()), L"Splitter",
+                           RRF_RT_REG_DWORD, nullptr, &value, &size),
+              ERROR_SUCCESS);
+    EXPECT_EQ(value, 345u);
+}
+
+TEST_F(DefaultProfileTest, WrongTypesAndRemovalGiveTheDefault) {
+    services.WriteProfileString(kSection, u"Text", u"17");
+    EXPECT_EQ(services.GetProfileInt(kSection, u"Text", 4), 4u);
+    services.WriteProfileInt(kSection, u"Number", 17);
+    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Number", u"none")), u"none");
+
+    EXPECT_TRUE(services.WriteProfileString(kSection, u"Number", nullptr));
+    EXPECT_EQ(services.GetProfileInt(kSection, u"Number", 4), 4u);
+    EXPECT_TRUE(services.WriteProfileString(kSection, u"Number", nullptr)); // already gone
+
+    EXPECT_TRUE(services.WriteProfileString(kSection, nullptr, nullptr));
+    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Text", u"gone")), u"gone");
+    EXPECT_FALSE(services.WriteProfileInt(kSection, nullptr, 1));
+    EXPECT_FALSE(services.WriteProfileString(nullptr, u"Entry", u"x"));
+}
+
+TEST(HostServicesTest, SafeOwnerIsTheTopLevelWindow) {
+    VU_CHostServices services;
+    vutest::PlainWindow top;
+    vutest::PlainWindow child(top.hwnd);
+    vutest::PlainWindow grandChild(child.hwnd);
+    EXPECT_EQ(services.GetSafeOwner(grandChild.hwnd), top.hwnd);
+    EXPECT_EQ(services.GetSafeOwner(top.hwnd), top.hwnd);
+
+    services.SetMainWindow(top.hwnd);
+    EXPECT_EQ(services.GetMainWindow(), top.hwnd);
+    EXPECT_EQ(services.GetSafeOwner(nullptr), top.hwnd);
+    EXPECT_FALSE(services.ShowContextHelp(0x20005, top.hwnd));
+}
+
+TEST(HostServicesTest, WaitCursorNestsAndRestores) {
+    VU_CHostServices services;
+    HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
+    SetCursor(arrow);
+    services.BeginWaitCursor();
+    services.BeginWaitCursor();
+    EXPECT_EQ(services.GetWaitCursorCount(), 2);
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_WAIT));
+    services.EndWaitCursor();
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_WAIT));
+    services.EndWaitCursor();
+    EXPECT_EQ(services.GetWaitCursorCount(), 0);
+    EXPECT_EQ(GetCursor(), arrow);
+    services.EndWaitCursor(); // unbalanced end is ignored
+    EXPECT_EQ(services.GetWaitCursorCount(), 0);
+}
+
+TEST(HostServicesTest, InstalledServicesReplaceTheDefaultsAndCanBeRemoved) {
+    struct Audit : VU_CHostServices {
+        void LogAuditTrail(DWORD type, const char16_t* function, const char16_t* text) override {
+            last = std::u16string(function) + u"|" + text + u"|" + char16_t(u'0' + type % 10);
+        }
+        std::u16string last;
+    } audit;
+    VU_CHostServices* defaults = VuSetHostServices(&audit);
+    EXPECT_EQ(VuGetHostServices(), &audit);
+    MDLogAuditTrailMsg(132, u"Fn()", u"text");
+    EXPECT_EQ(audit.last, u"Fn()|text|2");
+    EXPECT_EQ(VuSetHostServices(nullptr), &audit);
+    EXPECT_EQ(VuGetHostServices(), defaults);
+    MDLogAuditTrailMsg(132, u"Fn()", u"again"); // to the debugger, not to audit
+    EXPECT_EQ(audit.last, u"Fn()|text|2");
+}
+
+} // namespace

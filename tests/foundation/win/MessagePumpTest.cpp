@@ -1,0 +1,281 @@
+// The library's own pump: quit handling, WM_KICKIDLE, the pause and audit
+// entry before the control notification, the trace description, and
+// waiting for one message.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "foundation/win/HostServices.h"
+#include "foundation/win/MessagePump.h"
+#include "framework/win/ThreadState.h"
+#include "framework/win/Wide.h"
+#include "framework/win/WinThread.h"
+#include "framework/win/Wnd.h"
+#include "support/TestWindow.h"
+
+namespace {
+
+struct AuditEntry {
+    DWORD type;
+    std::u16string function;
+    std::u16string text;
+    double atMs;
+};
+
+// Records audit entries and wait-cursor calls instead of showing them.
+class RecordingServices : public VU_CHostServices {
+public:
+    void LogAuditTrail(DWORD type, const char16_t* function, const char16_t* text) override {
+        entries.push_back({type, function, text, vutest::NowMs()});
+    }
+    void BeginWaitCursor() override { ++begins; }
+    void EndWaitCursor() override { ++ends; }
+
+    std::vector<AuditEntry> entries;
+    int begins = 0;
+    int ends = 0;
+};
+
+// A framework window over a plain one, counting what it is offered.
+class CountingWnd : public CWnd {
+public:
+    BOOL PreTranslateMessage(MSG* pMsg) override {
+        preTranslated.push_back(pMsg->message);
+        return pMsg->message == consume ? TRUE : FALSE;
+    }
+    std::vector<UINT> preTranslated;
+    UINT consume = 0;
+};
+
+class MessagePumpTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        vutest::DrainQueue();
+        previous = VuSetHostServices(&services);
+        ASSERT_TRUE(wnd.SubclassWindow(window.hwnd));
+    }
+    void TearDown() override {
+        wnd.UnsubclassWindow();
+        VuSetHostServices(previous);
+        vutest::DrainQueue();
+    }
+
+    vutest::PlainWindow window;
+    CountingWnd wnd;
+    RecordingServices services;
+    VU_CHostServices* previous = nullptr;
+};
+
+// ---- draining the queue -------------------------------------------------------
+
+TEST_F(MessagePumpTest, DrainsEveryWaitingMessage) {
+    for (int i = 0; i < 3; ++i)
+        PostMessageW(window.hwnd, WM_APP + 2, i, 0);
+    EXPECT_TRUE(VuWaitForMessageQueue());
+    EXPECT_EQ(window.Count(WM_APP + 2), 3);
+    MSG msg;
+    EXPECT_FALSE(PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE));
+}
+
+TEST_F(MessagePumpTest, QuitIsPostedAgainWithItsExitCode) {
+    PostMessageW(window.hwnd, WM_APP + 3, 0, 0);
+    PostQuitMessage(7);
+    EXPECT_FALSE(VuWaitForMessageQueue());
+    EXPECT_EQ(window.Count(WM_APP + 3), 1); // messages before the quit were handled
+    MSG msg{};
+    ASSERT_TRUE(PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(msg.message, static_cast<UINT>(WM_QUIT));
+    EXPECT_EQ(msg.wParam, 7u);
+}
+
+TEST_F(MessagePumpTest, InternalPumpReturnsFalseOnQuit) {
+    PostQuitMessage(3);
+    EXPECT_FALSE(VuInternalPumpMessage());
+    EXPECT_EQ(AfxGetThreadState()->m_msgCur.message, static_cast<UINT>(WM_QUIT));
+}
+
+TEST_F(MessagePumpTest, KickIdleIsNeitherTranslatedNorDispatched) {
+    PostMessageW(window.hwnd, WM_KICKIDLE, 0, 0);
+    EXPECT_TRUE(VuInternalPumpMessage());
+    EXPECT_EQ(AfxGetThreadState()->m_msgCur.message, static_cast<UINT>(WM_KICKIDLE));
+    EXPECT_TRUE(wnd.preTranslated.empty());
+    EXPECT_EQ(window.Count(WM_KICKIDLE), 0);
+
+    // Any other message goes the whole way.
+    PostMessageW(window.hwnd, WM_APP + 4, 0, 0);
+    EXPECT_TRUE(VuInternalPumpMessage());
+    EXPECT_EQ(wnd.preTranslated, std::vector<UINT>{WM_APP + 4});
+    EXPECT_EQ(window.Count(WM_APP + 4), 1);
+}
+
+TEST_F(MessagePumpTest, PreTranslatedMessagesAreNotDispatched) {
+    wnd.consume = WM_APP + 5;
+    PostMessageW(window.hwnd, WM_APP + 5, 0, 0);
+    EXPECT_TRUE(VuWaitForMessageQueue());
+    EXPECT_EQ(wnd.preTranslated.size(), 1u);
+    EXPECT_EQ(window.Count(WM_APP + 5), 0);
+}
+
+TEST_F(MessagePumpTest, KeyDownIsTranslatedIntoACharacter) {
+    PostMessageW(window.hwnd, WM_KEYDOWN, 'A', 1);
+    EXPECT_TRUE(VuWaitForMessageQueue());
+    EXPECT_EQ(window.Count(WM_KEYDOWN), 1);
+    EXPECT_EQ(window.Count(WM_CHAR), 1);
+}
+
+TEST_F(MessagePumpTest, ControlNotificationIsAuditedAndDelayed) {
+    double dispatchedAt = 0;
+    window.onMessage = [&](UINT message, WPARAM, LPARAM, LRESULT*) {
+        if (message == VU_WM_CONTROL_NOTIFICATION)
+            dispatchedAt = vutest::NowMs();
+        return false;
+    };
+    PostMessageW(window.hwnd, WM_APP + 6, 0, 0);
+    EXPECT_TRUE(VuWaitForMessageQueue());
+    EXPECT_TRUE(services.entries.empty()); // ordinary messages write nothing
+
+    PostMessageW(window.hwnd, VU_WM_CONTROL_NOTIFICATION, 0, 0);
+    const double start = vutest::NowMs();
+    EXPECT_TRUE(VuWaitForMessageQueue());
+    ASSERT_EQ(services.entries.size(), 1u);
+    const AuditEntry& entry = services.entries[0];
+    EXPECT_EQ(entry.type, 132u);
+    EXPECT_EQ(entry.function, u"VuInternalPumpMessage()");
+    EXPECT_EQ(entry.text, u"Sleep(150) before Dispatch...");
+    ASSERT_GT(dispatchedAt, 0);
+    // The entry is written before the pause; the pause comes before dispatch.
+    EXPECT_GE(dispatchedAt - entry.atMs, 140.0);
+    EXPECT_LT(entry.atMs - start, 100.0);
+    RecordProperty("control_notification_pause_ms", std::to_string(dispatchedAt - entry.atMs));
+}
+
+// ---- waiting for one message -------------------------------------------------
+
+TEST_F(MessagePumpTest, WaitForMessageSucceedsWhenTheMessageIsThere) {
+    PostMessageW(window.hwnd, WM_APP + 7, 0, 0);
+    const double start = vutest::NowMs();
+    EXPECT_TRUE(VuWaitForMessage(window.hwnd, WM_APP + 7, WM_APP + 7, 5));
+    EXPECT_LT(vutest::NowMs() - start, 1000.0);
+    EXPECT_EQ(window.Count(WM_APP + 7), 1);
+    EXPECT_EQ(services.begins, 1);
+    EXPECT_EQ(services.ends, 1);
+}
+
+TEST_F(MessagePumpTest, WaitForMessageSucceedsWhenTheMessageComesLater) {
+    SetTimer(window.hwnd, 1, 200, nullptr);
+    const double start = vutest::NowMs();
+    EXPECT_TRUE(VuWaitForMessage(window.hwnd, WM_TIMER, WM_TIMER, 5));
+    const double waited = vutest::NowMs() - start;
+    KillTimer(window.hwnd, 1);
+    EXPECT_GE(waited, 150.0);
+    EXPECT_LT(waited, 3000.0);
+    EXPECT_EQ(window.Count(WM_TIMER), 1);
+}
+
+TEST_F(MessagePumpTest, WaitForMessageTimesOut) {
+    vutest::PlainWindow other;
+    PostMessageW(other.hwnd, WM_APP + 8, 0, 0); // another window's message does not count
+    const double start = vutest::NowMs();
+    EXPECT_FALSE(VuWaitForMessage(window.hwnd, WM_APP + 8, WM_APP + 8, 1));
+    const double waited = vutest::NowMs() - start;
+    EXPECT_GE(waited, 990.0);
+    EXPECT_LT(waited, 3000.0);
+    EXPECT_EQ(other.Count(WM_APP + 8), 0); // and is left in the queue
+    EXPECT_EQ(services.begins, 1);
+    EXPECT_EQ(services.ends, 1);
+    RecordProperty("timeout_1s_waited_ms", std::to_string(waited));
+}
+
+TEST_F(MessagePumpTest, WaitForMessagePostsAQuitItPumpedAgain) {
+    PostQuitMessage(9);
+    EXPECT_TRUE(VuWaitForMessage(nullptr, WM_QUIT, WM_QUIT, 1));
+    MSG msg{};
+    ASSERT_TRUE(PeekMessageW(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(msg.wParam, 9u);
+}
+
+// ---- trace description ---------------------------------------------------------
+
+TEST(MessageTraceTest, MessageNames) {
+    struct Row {
+        UINT message;
+        const char16_t* expected;
+    };
+    const Row rows[] = {
+        {15, u"0x0000000f - WM_PAINT"},
+        {18, u"0x00000012 - WM_QUIT"},
+        {160, u"0x000000a0 - WM_NCMOUSEMOVE"},
+        {275, u"0x00000113 - WM_TIMER"},
+        {512, u"0x00000200 - WM_MOUSEFIRST or WM_MOUSEMOVE"},
+        {874, u"0x0000036a - WM_KICKIDLE"},
+        {1186, u"0x000004a2 - CO_NOTIFICATION - WM_USER+128+34 - WM_AF_NOTIF_FIRST+34"},
+        {1192, u"0x000004a8 - WM_DW_RUNGNOTIFWINDOWMESSAGE - what?"},
+        {16, u"0x00000010 - <unknown>"},
+        {0xC123, u"0x0000c123 - <unknown>"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.message);
+        EXPECT_EQ(std::u16string(VuMessageName(row.message).GetString()), row.expected);
+    }
+}
+
+TEST(MessageTraceTest, FullDescriptionAndSame) {
+    VuResetMessageTrace();
+    MSG msg{};
+    msg.hwnd = reinterpret_cast<HWND>(static_cast<UINT_PTR>(0x1234));
+    msg.message = 275;
+    msg.wParam = 0xABCD;
+    msg.lParam = 0x10;
+    msg.time = 0x99;
+    msg.pt.x = 12;
+    msg.pt.y = -1;
+    CString expected;
+    expected.Format(
+        u"\n\t\tThreadID = 0x%08x\n\t\tText     = Unavailable\n\t\thwnd     = 0x00001234"
+        u"\n\t\tmessage  = 0x00000113 - WM_TIMER\n\t\twParam   = 0x0000abcd"
+        u"\n\t\tlParam   = 0x00000010\n\t\ttime     = 0x00000099"
+        u"\n\t\tpt.x     = 0x0000000c\n\t\tpt.y     = 0xffffffff\n\t\t",
+        static_cast<unsigned>(GetCurrentThreadId()));
+    EXPECT_EQ(std::u16string(VuDescribeMessage(msg).GetString()),
+              std::u16string(expected.GetString()));
+    EXPECT_EQ(std::u16string(VuDescribeMessage(msg).GetString()), u"same");
+
+    // Any one of the seven fields makes it new again.
+    MSG changed = msg;
+    changed.pt.y = 0;
+    EXPECT_NE(std::u16string(VuDescribeMessage(changed).GetString()), u"same");
+    EXPECT_EQ(std::u16string(VuDescribeMessage(changed).GetString()), u"same");
+    changed.time += 1;
+    EXPECT_NE(std::u16string(VuDescribeMessage(changed).GetString()), u"same");
+}
+
+TEST(MessageTraceTest, FrameworkWindowShowsItsText) {
+    VuResetMessageTrace();
+    vutest::PlainWindow window;
+    SetWindowTextW(window.hwnd, L"Rung 12");
+    MSG msg{};
+    msg.hwnd = window.hwnd;
+    msg.message = WM_PAINT;
+    EXPECT_NE(std::u16string(VuDescribeMessage(msg).GetString()).find(u"Text     = Unavailable"),
+              std::u16string::npos);
+
+    CWnd wnd;
+    ASSERT_TRUE(wnd.Attach(window.hwnd));
+    msg.time = 1;
+    EXPECT_NE(std::u16string(VuDescribeMessage(msg).GetString()).find(u"Text     = Rung 12\n"),
+              std::u16string::npos);
+    wnd.Detach();
+}
+
+TEST(MessageTraceTest, PumpKeepsTheLatestTrace) {
+    vutest::DrainQueue();
+    VuResetMessageTrace();
+    vutest::PlainWindow window;
+    PostMessageW(window.hwnd, WM_KICKIDLE, 0, 0);
+    EXPECT_TRUE(VuInternalPumpMessage());
+    EXPECT_NE(std::u16string(VuGetLastPumpTrace().GetString()).find(u"0x0000036a - WM_KICKIDLE"),
+              std::u16string::npos);
+}
+
+} // namespace

@@ -1,0 +1,180 @@
+// Modal dialogs: from a template in memory and through the resource chain,
+// OnInitDialog, OK and Cancel, owners, and a child control subclassed in
+// OnInitDialog getting its owner-draw calls from the dialog.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "framework/win/Dialog.h"
+#include "framework/win/ListBox.h"
+#include "support/TestWindow.h"
+
+namespace {
+
+const int kListId = 300;
+
+// A dialog template in memory: caption, an OK button and an owner-drawn
+// list box.
+class TemplateBuilder {
+public:
+    TemplateBuilder() {
+        Add<DWORD>(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_SETFONT);
+        Add<DWORD>(0);
+        Add<WORD>(2); // items
+        Add<short>(10), Add<short>(10), Add<short>(150), Add<short>(100);
+        Add<WORD>(0), Add<WORD>(0); // no menu, default class
+        AddText(L"Template dialog");
+        Add<WORD>(8);
+        AddText(L"MS Shell Dlg");
+        AddItem(WS_CHILD | WS_VISIBLE | BS_DEFPUSHBUTTON, 90, 80, 50, 14, IDOK, 0x0080, L"OK");
+        AddItem(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | WS_BORDER, 5, 5, 80, 70, kListId,
+                0x0083, L"");
+    }
+    const DLGTEMPLATE* Get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_words.data()); }
+
+private:
+    template <class T> void Add(T value) {
+        static_assert(sizeof(T) % 2 == 0);
+        WORD words[sizeof(T) / 2];
+        std::memcpy(words, &value, sizeof(T));
+        m_words.insert(m_words.end(), words, words + sizeof(T) / 2);
+    }
+    void AddText(const wchar_t* text) {
+        do
+            m_words.push_back(static_cast<WORD>(*text));
+        while (*text++ != 0);
+    }
+    void AddItem(DWORD style, short x, short y, short cx, short cy, WORD id, WORD atom,
+                 const wchar_t* text) {
+        if (m_words.size() % 2 != 0)
+            m_words.push_back(0); // items start on a DWORD boundary
+        Add<DWORD>(style);
+        Add<DWORD>(0);
+        Add<short>(x), Add<short>(y), Add<short>(cx), Add<short>(cy);
+        Add<WORD>(id);
+        Add<WORD>(0xFFFF), Add<WORD>(atom);
+        AddText(text);
+        Add<WORD>(0);
+    }
+    std::vector<WORD> m_words;
+};
+
+class DrawingList : public CListBox {
+public:
+    void DrawItem(LPDRAWITEMSTRUCT dis) override { drawn.push_back(static_cast<int>(dis->itemID)); }
+    std::vector<int> drawn;
+};
+
+// Subclasses its list box, fills it, and closes itself through a posted
+// command once shown.
+class TestDialog : public CDialog {
+public:
+    BOOL OnInitDialog() override {
+        ++initCalls;
+        sawOwnHandle = m_hWnd != nullptr && CWnd::FromHandlePermanent(m_hWnd) == this;
+        list.SubclassDlgItem(kListId, this);
+        list.AddString(reinterpret_cast<const char16_t*>(static_cast<UINT_PTR>(11)));
+        list.AddString(reinterpret_cast<const char16_t*>(static_cast<UINT_PTR>(12)));
+        owner = ::GetWindow(m_hWnd, GW_OWNER);
+        PostMessage(closeMessage, closeWParam, 0);
+        return TRUE;
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_APP + 20) {
+            ShowWindow(SW_SHOW); // a modal dialog shows itself only once its queue is idle
+            ::RedrawWindow(list.m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+            drawnBeforeClose = list.drawn;
+            EndDialog(static_cast<int>(wParam));
+            return 0;
+        }
+        return CDialog::WindowProc(message, wParam, lParam);
+    }
+    void OnOK() override {
+        ++okCalls;
+        CDialog::OnOK();
+    }
+
+    DrawingList list;
+    int initCalls = 0;
+    int okCalls = 0;
+    bool sawOwnHandle = false;
+    HWND owner = nullptr;
+    UINT closeMessage = WM_COMMAND;
+    WPARAM closeWParam = MAKEWPARAM(IDOK, BN_CLICKED);
+    std::vector<int> drawnBeforeClose;
+};
+
+TEST(DialogTest, ModalFromMemoryTemplateClosedWithOk) {
+    TemplateBuilder tmpl;
+    TestDialog dlg;
+    ASSERT_TRUE(dlg.InitModalIndirect(tmpl.Get()));
+    EXPECT_EQ(dlg.DoModal(), IDOK);
+    EXPECT_EQ(dlg.initCalls, 1);
+    EXPECT_EQ(dlg.okCalls, 1);
+    EXPECT_TRUE(dlg.sawOwnHandle);
+    EXPECT_EQ(dlg.m_hWnd, nullptr);
+    EXPECT_EQ(dlg.list.m_hWnd, nullptr); // its window went with the dialog
+}
+
+TEST(DialogTest, CancelAndCustomResults) {
+    TemplateBuilder tmpl;
+    {
+        TestDialog dlg;
+        dlg.closeWParam = MAKEWPARAM(IDCANCEL, BN_CLICKED);
+        dlg.InitModalIndirect(tmpl.Get());
+        EXPECT_EQ(dlg.DoModal(), IDCANCEL);
+        EXPECT_EQ(dlg.okCalls, 0);
+    }
+    {
+        TestDialog dlg;
+        dlg.closeMessage = WM_CLOSE; // the dialog manager turns it into IDCANCEL
+        dlg.closeWParam = 0;
+        dlg.InitModalIndirect(tmpl.Get());
+        EXPECT_EQ(dlg.DoModal(), IDCANCEL);
+    }
+    {
+        TestDialog dlg;
+        dlg.closeMessage = WM_APP + 20;
+        dlg.closeWParam = 1234;
+        dlg.InitModalIndirect(tmpl.Get());
+        EXPECT_EQ(dlg.DoModal(), 1234);
+        // The list box subclassed in OnInitDialog was drawn through the dialog.
+        EXPECT_EQ(dlg.drawnBeforeClose, (std::vector<int>{0, 1}));
+    }
+}
+
+TEST(DialogTest, OwnerIsTheParentsTopLevelWindow) {
+    TemplateBuilder tmpl;
+    vutest::PlainWindow top; // hidden: a visible one is slow to go under Xvfb
+    vutest::PlainWindow child(top.hwnd, WS_VISIBLE);
+    TestDialog dlg;
+    dlg.InitModalIndirect(tmpl.Get(), CWnd::FromHandle(child.hwnd));
+    EXPECT_EQ(dlg.DoModal(), IDOK);
+    EXPECT_EQ(dlg.owner, top.hwnd);
+    EXPECT_TRUE(IsWindowEnabled(top.hwnd)); // enabled again afterwards
+}
+
+TEST(DialogTest, MissingTemplateFailsWithMinusOne) {
+    CDialog dlg(59999);
+    EXPECT_EQ(dlg.DoModal(), -1);
+    EXPECT_EQ(dlg.m_hWnd, nullptr);
+    CDialog modeless;
+    EXPECT_FALSE(modeless.Create(59999));
+}
+
+TEST(DialogTest, ModelessFromMemoryTemplate) {
+    TemplateBuilder tmpl;
+    CDialog dlg;
+    ASSERT_TRUE(dlg.CreateIndirect(tmpl.Get()));
+    EXPECT_EQ(CWnd::FromHandlePermanent(dlg.m_hWnd), &dlg);
+    EXPECT_FALSE(dlg.IsModal());
+    CWnd* ok = dlg.GetDlgItem(IDOK);
+    ASSERT_NE(ok, nullptr);
+    dlg.SendMessage(WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), reinterpret_cast<LPARAM>(ok->m_hWnd));
+    EXPECT_FALSE(dlg.IsWindowVisible()); // a modeless dialog hides on OK
+    EXPECT_TRUE(dlg.DestroyWindow());
+    EXPECT_EQ(dlg.m_hWnd, nullptr);
+}
+
+} // namespace

@@ -1,0 +1,218 @@
+// CWnd on real windows: the permanent and temporary handle maps, attaching,
+// subclassing and its undoing, creation through the creation hook, the
+// destruction path, and the exception barrier of the window procedure.
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <vector>
+
+#include "foundation/win/MessageFilter.h"
+#include "framework/win/ListBox.h"
+#include "framework/win/ThreadState.h"
+#include "framework/win/Wnd.h"
+#include "support/TestWindow.h"
+
+namespace {
+
+const UINT kProbe = WM_APP + 11;
+
+// Records what reaches the object and can answer or throw.
+class ProbeWnd : public CWnd {
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        seen.push_back(message);
+        if (message == kProbe && wParam == 1)
+            return 100 + Default(); // the previous procedure's answer, through Default
+        if (message == kProbe && wParam == 2)
+            throw std::runtime_error("handler failed");
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override { ++postNcDestroyCalls; }
+    int Count(UINT message) const {
+        int n = 0;
+        for (UINT m : seen)
+            n += m == message ? 1 : 0;
+        return n;
+    }
+    std::vector<UINT> seen;
+    int postNcDestroyCalls = 0;
+};
+
+WNDPROC ProcedureOf(HWND hwnd) {
+    return reinterpret_cast<WNDPROC>(GetWindowLongPtrW(hwnd, GWLP_WNDPROC));
+}
+
+// ---- handle maps --------------------------------------------------------------
+
+TEST(WndMapTest, AttachMapsPermanentlyUntilDetach) {
+    vutest::PlainWindow window;
+    CWnd wnd;
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), nullptr);
+    ASSERT_TRUE(wnd.Attach(window.hwnd));
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), &wnd);
+    EXPECT_EQ(CWnd::FromHandle(window.hwnd), &wnd);
+    EXPECT_EQ(ProcedureOf(window.hwnd), vutest::PlainWindow::OwnProcedure()); // not subclassed
+
+    CWnd other;
+    EXPECT_FALSE(other.Attach(window.hwnd)); // one object per handle
+    EXPECT_FALSE(wnd.Attach(window.hwnd));   // one handle per object
+    EXPECT_FALSE(other.Attach(nullptr));
+
+    EXPECT_EQ(wnd.Detach(), window.hwnd);
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), nullptr);
+    EXPECT_TRUE(IsWindow(window.hwnd));
+}
+
+TEST(WndMapTest, TemporaryWrappersAreReusedAndNeverPermanent) {
+    vutest::PlainWindow window;
+    CWnd* temp = CWnd::FromHandle(window.hwnd);
+    ASSERT_NE(temp, nullptr);
+    EXPECT_EQ(temp->m_hWnd, window.hwnd);
+    EXPECT_EQ(CWnd::FromHandle(window.hwnd), temp);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), nullptr);
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+    CWnd::DeleteTempMap();
+    EXPECT_TRUE(IsWindow(window.hwnd)); // deleting a wrapper leaves the window
+}
+
+TEST(WndMapTest, ObjectThatDiesAttachedDestroysItsWindow) {
+    vutest::PlainWindow window;
+    HWND hwnd = window.hwnd;
+    {
+        CWnd wnd;
+        ASSERT_TRUE(wnd.Attach(hwnd));
+    }
+    EXPECT_FALSE(IsWindow(hwnd));
+    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), nullptr);
+}
+
+// ---- subclassing ----------------------------------------------------------------
+
+TEST(WndSubclassTest, MessagesReachWindowProcAndDefaultReachesTheOldProcedure) {
+    vutest::PlainWindow window;
+    window.Answer(kProbe, 5);
+    ProbeWnd wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(window.hwnd));
+    EXPECT_NE(ProcedureOf(window.hwnd), vutest::PlainWindow::OwnProcedure());
+    EXPECT_TRUE(wnd.IsSubclassed());
+
+    EXPECT_EQ(SendMessageW(window.hwnd, kProbe, 1, 0), 105);
+    EXPECT_EQ(SendMessageW(window.hwnd, kProbe, 0, 0), 5); // base WindowProc: the old procedure
+    EXPECT_EQ(wnd.Count(kProbe), 2);
+    EXPECT_EQ(window.Count(kProbe), 2);
+
+    EXPECT_EQ(wnd.UnsubclassWindow(), window.hwnd);
+    EXPECT_EQ(ProcedureOf(window.hwnd), vutest::PlainWindow::OwnProcedure());
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), nullptr);
+    SendMessageW(window.hwnd, kProbe, 0, 0);
+    EXPECT_EQ(wnd.Count(kProbe), 2);
+    EXPECT_EQ(window.Count(kProbe), 3);
+}
+
+TEST(WndSubclassTest, SubclassFailsForBadOrTakenHandles) {
+    vutest::PlainWindow window;
+    ProbeWnd first, second;
+    EXPECT_FALSE(first.SubclassWindow(nullptr));
+    EXPECT_FALSE(first.SubclassWindow(reinterpret_cast<HWND>(static_cast<UINT_PTR>(0xDEAD0))));
+    ASSERT_TRUE(first.SubclassWindow(window.hwnd));
+    EXPECT_FALSE(second.SubclassWindow(window.hwnd));
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), &first);
+    first.UnsubclassWindow();
+    EXPECT_EQ(first.UnsubclassWindow(), nullptr); // not subclassed any more
+}
+
+TEST(WndSubclassTest, UnsubclassUnderAFilterKeepsTheWindowWorking) {
+    vutest::PlainWindow window;
+    window.Answer(kProbe, 8);
+    ProbeWnd wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(window.hwnd));
+    struct Filter : VU_CMessageFilter {
+        LRESULT OnMessage(UINT message, WPARAM, LPARAM) override {
+            seen += message == kProbe ? 1 : 0;
+            return 0;
+        }
+        int seen = 0;
+    } filter;
+    filter.ListenTo(window.hwnd);
+
+    wnd.UnsubclassWindow(); // our procedure is not on top: it must keep forwarding
+    EXPECT_EQ(SendMessageW(window.hwnd, kProbe, 0, 0), 8);
+    EXPECT_EQ(filter.seen, 1);
+    EXPECT_EQ(wnd.Count(kProbe), 0);
+    filter.StopListening();
+    EXPECT_EQ(SendMessageW(window.hwnd, kProbe, 0, 0), 8);
+}
+
+TEST(WndSubclassTest, ExceptionsStopAtTheWindowProcedure) {
+    vutest::PlainWindow window;
+    ProbeWnd wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(window.hwnd));
+    EXPECT_EQ(SendMessageW(window.hwnd, kProbe, 2, 0), 0);
+    EXPECT_EQ(SendMessageW(window.hwnd, kProbe, 1, 0), 100); // still alive and routed
+    wnd.UnsubclassWindow();
+}
+
+TEST(WndSubclassTest, DestructionDetachesAndCallsPostNcDestroy) {
+    auto* window = new vutest::PlainWindow;
+    HWND hwnd = window->hwnd;
+    ProbeWnd wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(hwnd));
+    delete window;
+    EXPECT_EQ(wnd.Count(WM_DESTROY), 1);
+    EXPECT_EQ(wnd.Count(WM_NCDESTROY), 1);
+    EXPECT_EQ(wnd.postNcDestroyCalls, 1);
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), nullptr);
+}
+
+// ---- creation -----------------------------------------------------------------
+
+TEST(WndCreateTest, CreateExSeesTheWindowFromItsFirstMessages) {
+    vutest::PlainWindow parent;
+    ProbeWnd wnd;
+    ASSERT_TRUE(wnd.CreateEx(0, u"STATIC", u"caption", WS_CHILD, CRect(0, 0, 50, 20),
+                             CWnd::FromHandle(parent.hwnd), 77));
+    EXPECT_EQ(CWnd::FromHandlePermanent(wnd.m_hWnd), &wnd);
+    EXPECT_EQ(wnd.GetDlgCtrlID(), 77);
+    EXPECT_EQ(wnd.GetParent()->m_hWnd, parent.hwnd);
+    EXPECT_EQ(wnd.Count(WM_NCCREATE), 1);
+    EXPECT_EQ(wnd.Count(WM_CREATE), 1);
+    CString text;
+    wnd.GetWindowText(text);
+    EXPECT_EQ(std::u16string(text.GetString()), u"caption");
+    EXPECT_EQ(AfxGetThreadState()->m_pWndInit, nullptr);
+
+    HWND hwnd = wnd.m_hWnd;
+    EXPECT_TRUE(wnd.DestroyWindow());
+    EXPECT_FALSE(IsWindow(hwnd));
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+}
+
+TEST(WndCreateTest, FailedCreationLeavesTheObjectFree) {
+    ProbeWnd wnd;
+    EXPECT_FALSE(
+        wnd.CreateEx(0, u"NoSuchWindowClass", nullptr, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
+    EXPECT_EQ(wnd.m_hWnd, nullptr);
+    // The hook is gone: a later plain window is not taken by anyone.
+    vutest::PlainWindow window;
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), nullptr);
+    EXPECT_EQ(ProcedureOf(window.hwnd), vutest::PlainWindow::OwnProcedure());
+}
+
+TEST(WndCreateTest, ObjectThatDiesDestroysTheWindowItCreated) {
+    vutest::PlainWindow parent;
+    HWND hwnd = nullptr;
+    {
+        CListBox list;
+        ASSERT_TRUE(list.Create(WS_VISIBLE | LBS_NOTIFY, CRect(0, 0, 100, 80), parent.hwnd, 5));
+        hwnd = list.m_hWnd;
+        list.AddString(u"one");
+        EXPECT_EQ(list.GetCount(), 1);
+    }
+    EXPECT_FALSE(IsWindow(hwnd));
+    EXPECT_EQ(CWnd::FromHandlePermanent(hwnd), nullptr);
+    EXPECT_TRUE(IsWindow(parent.hwnd));
+}
+
+} // namespace
