@@ -15,6 +15,7 @@
 #include "text/SearchableString.h"
 
 #include "framework/CaseMap.h"
+#include "support/Corpus.h"
 
 #define PCRE2_CODE_UNIT_WIDTH 16
 #include <benchmark/benchmark.h>
@@ -24,9 +25,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <fstream>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,35 +40,13 @@ constexpr std::size_t kCharsPerMB = 1 << 19; // 1 MB of UTF-16
 
 // ---- The text ---------------------------------------------------------------
 
-// Perl's manual pages (Debian perl-modules): several MB of English prose.
-std::u16string LoadProse() {
-    static const char* const files[] = {
-        "perlfaq4.pod", "perlfaq5.pod", "perlfaq6.pod", "perlfaq7.pod",  "perlfaq8.pod",
-        "perlfunc.pod", "perlguts.pod", "perlop.pod",   "perlre.pod",    "perlsyn.pod",
-        "perlvar.pod",  "perlxs.pod",   "perlapi.pod",  "perlintern.pod"};
-    std::u16string out;
-    for (const char* name : files) {
-        std::ifstream in(std::string("/usr/share/perl/5.36.0/pod/") + name, std::ios::binary);
-        std::stringstream bytes;
-        bytes << in.rdbuf();
-        for (unsigned char c : bytes.str())
-            out.push_back(c);
-    }
-    return out;
-}
-
-// The prose repeated to `chars` units.
+// The first `chars` units of the English corpus (repeated as needed).
 const std::u16string& Prose(std::size_t chars) {
     static std::vector<std::unique_ptr<std::u16string>> cache;
     for (const auto& t : cache)
         if (t->size() == chars)
             return *t;
-    static const std::u16string base = LoadProse();
-    auto text = std::make_unique<std::u16string>();
-    text->reserve(chars);
-    while (!base.empty() && text->size() < chars)
-        text->append(base, 0, std::min(base.size(), chars - text->size()));
-    cache.push_back(std::move(text));
+    cache.push_back(std::make_unique<std::u16string>(vu::bench::LoadEnglishCorpus(chars)));
     return *cache.back();
 }
 

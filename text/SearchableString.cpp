@@ -62,20 +62,18 @@ struct CharClass {
 };
 
 #if defined(__SSE2__)
-struct CharClassVec {
+// The candidate test on eight units at once; Folded adds "any non-ASCII".
+template <bool Folded> struct CharClassVec {
     __m128i a, b;
-    bool nonAscii;
     explicit CharClassVec(const CharClass& c)
-        : a(_mm_set1_epi16(static_cast<short>(c.a))), b(_mm_set1_epi16(static_cast<short>(c.b))),
-          nonAscii(c.nonAscii) {}
+        : a(_mm_set1_epi16(static_cast<short>(c.a))), b(_mm_set1_epi16(static_cast<short>(c.b))) {}
     __m128i Match(__m128i x) const {
-        __m128i m = _mm_or_si128(_mm_cmpeq_epi16(x, a), _mm_cmpeq_epi16(x, b));
-        if (nonAscii) {
-            const __m128i high = _mm_and_si128(x, _mm_set1_epi16(static_cast<short>(0xFF80)));
-            const __m128i ascii = _mm_cmpeq_epi16(high, _mm_setzero_si128());
-            m = _mm_or_si128(m, _mm_andnot_si128(ascii, _mm_set1_epi16(-1)));
-        }
-        return m;
+        if constexpr (!Folded)
+            return _mm_cmpeq_epi16(x, a);
+        const __m128i m = _mm_or_si128(_mm_cmpeq_epi16(x, a), _mm_cmpeq_epi16(x, b));
+        const __m128i high = _mm_and_si128(x, _mm_set1_epi16(static_cast<short>(0xFF80)));
+        const __m128i ascii = _mm_cmpeq_epi16(high, _mm_setzero_si128());
+        return _mm_or_si128(m, _mm_andnot_si128(ascii, _mm_set1_epi16(-1)));
     }
 };
 
@@ -116,14 +114,14 @@ struct Needle {
 // first and non-overlapping (the next one begins at or after p + length),
 // until onMatch returns false. Returns the position of the last match
 // reported, or -1.
-template <class OnMatch>
-int ForEachOccurrence(const char16_t* s, int n, int from, const Needle& nd, OnMatch&& onMatch) {
+template <bool Folded, class OnMatch>
+int ForEachOccurrenceOf(const char16_t* s, int n, int from, const Needle& nd, OnMatch& onMatch) {
     const int m = nd.length;
     const int lastStart = n - m;
     int next = from; // no occurrence may begin before it
     int i = from;
 #if defined(__SSE2__)
-    const CharClassVec first(nd.first), last(nd.last);
+    const CharClassVec<Folded> first(nd.first), last(nd.last);
     // Sixteen positions per step: the two halves' 16-bit lane masks are
     // packed to bytes so that bit k of the mask stands for position i + k.
     for (; i + 16 <= lastStart + 1; i += 16) {
@@ -152,27 +150,36 @@ int ForEachOccurrence(const char16_t* s, int n, int from, const Needle& nd, OnMa
     return -1;
 }
 
+template <class OnMatch>
+int ForEachOccurrence(const char16_t* s, int n, int from, const Needle& nd, OnMatch&& onMatch) {
+    return nd.noCase ? ForEachOccurrenceOf<true>(s, n, from, nd, onMatch)
+                     : ForEachOccurrenceOf<false>(s, n, from, nd, onMatch);
+}
+
 // First position p >= from with p + m <= n where the needle matches, or -1.
 int ScanForward(const char16_t* s, int n, int from, const Needle& nd) {
     return ForEachOccurrence(s, n, from, nd, [](int) { return false; });
 }
 
 // Last position p <= start (p + m <= n) where the needle matches, or -1.
-int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
+template <bool Folded> int ScanBackwardOf(const char16_t* s, int n, int start, const Needle& nd) {
     const int m = nd.length;
     int i = std::min(start, n - m);
 #if defined(__SSE2__)
-    const CharClassVec first(nd.first), last(nd.last);
-    for (; i - 7 >= 0; i -= 8) {
-        const char16_t* block = s + i - 7;
-        const __m128i hit =
-            _mm_and_si128(first.Match(Load(block)), last.Match(Load(block + m - 1)));
-        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(hit)) & 0x5555u;
+    const CharClassVec<Folded> first(nd.first), last(nd.last);
+    // Sixteen positions per step ending at i, the highest first.
+    for (; i - 15 >= 0; i -= 16) {
+        const char16_t* block = s + i - 15;
+        const char16_t* tail = block + m - 1;
+        const __m128i low = _mm_and_si128(first.Match(Load(block)), last.Match(Load(tail)));
+        const __m128i high =
+            _mm_and_si128(first.Match(Load(block + 8)), last.Match(Load(tail + 8)));
+        unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(_mm_packs_epi16(low, high)));
         while (mask) {
-            const int k = (31 - __builtin_clz(mask)) / 2;
+            const int k = 31 - __builtin_clz(mask);
             if (nd.MatchesAt(block + k))
-                return i - 7 + k;
-            mask &= ~(1u << (2 * k));
+                return i - 15 + k;
+            mask &= ~(1u << k);
         }
     }
 #endif
@@ -180,6 +187,11 @@ int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
         if (nd.Candidate(s + i) && nd.MatchesAt(s + i))
             return i;
     return -1;
+}
+
+int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
+    return nd.noCase ? ScanBackwardOf<true>(s, n, start, nd)
+                     : ScanBackwardOf<false>(s, n, start, nd);
 }
 
 // Delimiter membership in constant time for ASCII, a short scan beyond.
@@ -504,27 +516,23 @@ struct Run {
     int at, length;
 };
 
-// Copies n units; short runs, the common case between frequent matches, are
-// copied with two overlapping moves instead of a library call.
-inline char16_t* CopyUnits(char16_t* to, const char16_t* from, std::size_t n) {
-    if (n >= 8 && n <= 16) {
-        std::uint64_t a[2], b[2];
-        std::memcpy(a, from, 16);
-        std::memcpy(b, from + n - 8, 16);
-        std::memcpy(to, a, 16);
-        std::memcpy(to + n - 8, b, 16);
-    } else if (n >= 4 && n < 8) {
-        std::uint64_t a, b;
-        std::memcpy(&a, from, 8);
-        std::memcpy(&b, from + n - 4, 8);
-        std::memcpy(to, &a, 8);
-        std::memcpy(to + n - 4, &b, 8);
-    } else if (n < 4) {
-        for (std::size_t k = 0; k < n; ++k)
-            to[k] = from[k];
-    } else {
-        std::memcpy(to, from, n * sizeof(char16_t));
-    }
+constexpr std::size_t kChunk = 32; // units moved per step by CopyWithSlack
+
+// Copies n units in whole chunks: it may read and write up to kChunk - 1
+// units past the end of both ranges, which the caller must own. Gaps between
+// frequent matches are short and of varying length; whole chunks keep the
+// copy free of length-dependent branches and library calls.
+inline char16_t* CopyWithSlack(char16_t* to, const char16_t* from, std::size_t n) {
+    std::size_t k = 0;
+    do {
+        std::memcpy(to + k, from + k, kChunk * sizeof(char16_t));
+        k += kChunk;
+    } while (k < n);
+    return to + n;
+}
+
+inline char16_t* CopyExact(char16_t* to, const char16_t* from, std::size_t n) {
+    std::memcpy(to, from, n * sizeof(char16_t));
     return to + n;
 }
 
@@ -541,16 +549,29 @@ bool Rebuild(std::u16string_view text, std::size_t count, RunOf&& runOf,
     if (size > INT_MAX)
         return false;
     out.resize(static_cast<std::size_t>(size));
+    // The writes go left to right, so what a chunk copy writes past its end
+    // is overwritten by the next copy; near either end the copies are exact.
+    std::u16string padded(replacement);
+    padded.resize(replacement.size() + kChunk);
     char16_t* to = out.data();
-    const char16_t* from = text.data();
+    char16_t* const safeEnd = to + out.size();
+    const char16_t* const from = text.data();
     std::size_t copied = 0;
     for (std::size_t k = 0; k < count; ++k) {
         const Run run = runOf(k);
-        to = CopyUnits(to, from + copied, run.at - copied);
-        to = CopyUnits(to, replacement.data(), replacement.size());
+        const std::size_t gap = run.at - copied;
+        const bool slack = copied + gap + kChunk <= text.size() &&
+                           to + gap + replacement.size() + kChunk <= safeEnd;
+        if (slack) {
+            to = CopyWithSlack(to, from + copied, gap);
+            to = CopyWithSlack(to, padded.data(), replacement.size());
+        } else {
+            to = CopyExact(to, from + copied, gap);
+            to = CopyExact(to, replacement.data(), replacement.size());
+        }
         copied = static_cast<std::size_t>(run.at) + run.length;
     }
-    CopyUnits(to, from + copied, text.size() - copied);
+    CopyExact(to, from + copied, text.size() - copied);
     return true;
 }
 
