@@ -4,7 +4,7 @@ ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 JOBS=${JOBS:-$(nproc)}
 
 NATIVE_PACKAGES="cmake make g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-  libpcre2-dev libicu-dev libxml2-dev libpugixml-dev unicode-data python3"
+  libpcre2-dev libicu-dev libxml2-dev libpugixml-dev unicode-data python3 perl-doc"
 WINDOWS_PACKAGES="g++-mingw-w64-x86-64 wine64 xvfb xauth imagemagick x11-apps"
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
 
