@@ -23,8 +23,12 @@ std::string Show(std::u16string_view s) {
     }
     return out;
 }
-std::string Show(const CString& s) { return Show(s.View()); }
-std::string Show(const std::u16string& s) { return Show(std::u16string_view(s)); }
+std::string Show(const CString& s) {
+    return Show(s.View());
+}
+std::string Show(const std::u16string& s) {
+    return Show(std::u16string_view(s));
+}
 
 // ---- Construction ---------------------------------------------------------
 
@@ -200,7 +204,8 @@ TEST(SearchableStringFindNoCase, TextForm) {
         {"mixed text", u"xAbC", u"abc", 0, FALSE, 1},
         {"beyond ASCII", u"gro\u00DF \u00C4RGER", u"\u00E4rger", 0, FALSE, 5},
         {"Greek", u"\u03A3\u039F\u03A6\u0399\u0391", u"\u03C3\u03BF\u03C6", 0, FALSE, 0},
-        {"Kelvin sign lowers to k", u"xxxxxxxxxxxxxxxxxxxx\u212Aey", u"key", 0, FALSE, 20},
+        {"Kelvin sign lowers to k", u"xxxx\u212Aey and more text after it", u"key", 0, FALSE, 4},
+        {"Kelvin sign near the end", u"xxxxxxxxxxxxxxxxxxxx\u212Aey", u"key", 0, FALSE, 20},
         {"whole word", u"Cats cat", u"CAT", 0, TRUE, 5},
         {"start", u"ABab", u"ab", 1, FALSE, 2},
         {"absent", u"abc", u"abd", 0, FALSE, -1},
