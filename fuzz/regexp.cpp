@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::u16string text = Widen(data + 1 + patternSize, size - 1 - patternSize);
 
     VU_CRegExpression re;
-    re.SetStepLimit(200000);
+    re.SetStepLimit(20000);
     const bool compiled = re.RegComp(pattern.c_str()) != nullptr;
     Check(re.IsCompiled());
     Check(compiled || re.GetProgram() == nullptr);

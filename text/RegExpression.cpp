@@ -512,20 +512,40 @@ void VU_CRegExpression::ComputeHints(int flags) {
 
 namespace {
 
-// Sorted, merged inclusive ranges of the given units.
-void MakeRanges(std::vector<char16_t> units, std::vector<char16_t>& lo, std::vector<char16_t>& hi) {
+// The runs of set bits in a 65536-bit map as inclusive ranges (unit 0, the
+// terminator, is never a member).
+void RangesFromBits(const std::vector<uint64_t>& bits, std::vector<char16_t>& lo,
+                    std::vector<char16_t>& hi) {
     lo.clear();
     hi.clear();
-    if (!std::is_sorted(units.begin(), units.end()))
-        std::sort(units.begin(), units.end());
-    for (char16_t c : units) {
-        if (!hi.empty() && c <= uint32_t(hi.back()) + 1) {
-            hi.back() = std::max(hi.back(), c);
-            continue;
+    bool open = false;
+    for (uint32_t word = 0; word < bits.size(); ++word) {
+        const uint64_t w = bits[word];
+        if ((w == 0 && !open) || (w == ~uint64_t(0) && open))
+            continue; // nothing changes in this word
+        for (uint32_t bit = 0; bit < 64; ++bit) {
+            const uint32_t c = word * 64 + bit;
+            const bool member = c != 0 && ((w >> bit) & 1);
+            if (member && !open) {
+                lo.push_back(char16_t(c));
+                open = true;
+            } else if (!member && open) {
+                hi.push_back(char16_t(c - 1));
+                open = false;
+            }
         }
-        lo.push_back(c);
-        hi.push_back(c);
     }
+    if (open)
+        hi.push_back(char16_t(0xFFFF));
+}
+
+// Sorted, merged inclusive ranges of the given units.
+void MakeRanges(const char16_t* units, size_t n, std::vector<char16_t>& lo,
+                std::vector<char16_t>& hi) {
+    std::vector<uint64_t> bits(65536 / 64, 0);
+    for (size_t i = 0; i < n; ++i)
+        bits[units[i] >> 6] |= uint64_t(1) << (units[i] & 63);
+    RangesFromBits(bits, lo, hi);
 }
 
 } // namespace
@@ -555,7 +575,7 @@ void VU_CRegExpression::BuildSetInfo() {
             continue;
         SetInfo info;
         info.node = uint32_t(operand - kNodeUnits - m_program);
-        MakeRanges(std::vector<char16_t>(operand, operand + n), info.members.lo, info.members.hi);
+        MakeRanges(operand, n, info.members.lo, info.members.hi);
         for (size_t i = 0; i < n; ++i)
             if (operand[i] < 256)
                 info.members.ascii[operand[i] >> 6] |= uint64_t(1) << (operand[i] & 63);
@@ -653,19 +673,7 @@ void VU_CRegExpression::ComputeStartSet() {
     if (!CollectStartChars(m_program, bits, visited, 0))
         return;
     std::vector<char16_t> lo, hi;
-    for (uint32_t c = 1; c < 65536; ++c) {
-        if (!((bits[c >> 6] >> (c & 63)) & 1)) {
-            if (!bits[c >> 6])
-                c |= 63; // skip an empty word
-            continue;
-        }
-        if (!hi.empty() && hi.back() + 1u == c)
-            hi.back() = char16_t(c);
-        else {
-            lo.push_back(char16_t(c));
-            hi.push_back(char16_t(c));
-        }
-    }
+    RangesFromBits(bits, lo, hi);
     if (lo.size() > size_t(VU_CRegExpScan::kMaxRanges))
         return;
     m_startSet.lo = std::move(lo);
