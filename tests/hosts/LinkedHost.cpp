@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "foundation/win/Library.h"
+#include "framework/win/Dialog.h"
 #include "framework/win/DynLinkLibrary.h"
 #include "framework/win/ListBox.h"
 
@@ -26,6 +27,19 @@ class HostListBox : public CListBox {
 public:
     void DrawItem(LPDRAWITEMSTRUCT dis) override { drawn.push_back(dis->itemData); }
     std::vector<ULONG_PTR> drawn;
+};
+
+// The host's own dialog template, run by the library's dialog class.
+class HostDialog : public CDialog {
+public:
+    HostDialog() : CDialog(4000) {}
+    BOOL OnInitDialog() override {
+        initialised = list.SubclassDlgItem(4001, this) != FALSE;
+        PostMessage(WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+        return TRUE;
+    }
+    HostListBox list;
+    bool initialised = false;
 };
 
 LRESULT CALLBACK ParentProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -69,5 +83,9 @@ int main() {
 
     DestroyWindow(parent);
     Check(box.m_hWnd == nullptr, "object released with the window");
+
+    HostDialog dialog;
+    Check(dialog.DoModal() == IDOK && dialog.initialised, "host dialog template found and run");
+    Check(dialog.list.m_hWnd == nullptr, "dialog's list box released with the dialog");
     return g_failures;
 }

@@ -19,6 +19,7 @@ const int kListId = 300;
 class TemplateBuilder {
 public:
     TemplateBuilder() {
+        m_words.reserve(256);
         Add<DWORD>(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_SETFONT);
         Add<DWORD>(0);
         Add<WORD>(2); // items
@@ -38,7 +39,8 @@ private:
         static_assert(sizeof(T) % 2 == 0);
         WORD words[sizeof(T) / 2];
         std::memcpy(words, &value, sizeof(T));
-        m_words.insert(m_words.end(), words, words + sizeof(T) / 2);
+        for (WORD word : words)
+            m_words.push_back(word);
     }
     void AddText(const wchar_t* text) {
         do

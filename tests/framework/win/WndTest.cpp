@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 #include "foundation/win/MessageFilter.h"
@@ -74,6 +75,26 @@ TEST(WndMapTest, TemporaryWrappersAreReusedAndNeverPermanent) {
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
     CWnd::DeleteTempMap();
     EXPECT_TRUE(IsWindow(window.hwnd)); // deleting a wrapper leaves the window
+}
+
+TEST(WndMapTest, MapsArePerThreadAndAThreadsStateGoesWithIt) {
+    vutest::PlainWindow window;
+    CWnd wnd;
+    ASSERT_TRUE(wnd.Attach(window.hwnd));
+    CWnd* seenByWorker = &wnd;
+    bool workerTempIsWrapper = false;
+    std::thread worker([&] {
+        // Another thread has its own maps: no permanent object, a wrapper of
+        // its own, freed when the thread ends.
+        seenByWorker = CWnd::FromHandlePermanent(window.hwnd);
+        CWnd* temp = CWnd::FromHandle(window.hwnd);
+        workerTempIsWrapper = temp != nullptr && temp != &wnd && temp->m_hWnd == window.hwnd;
+    });
+    worker.join();
+    EXPECT_EQ(seenByWorker, nullptr);
+    EXPECT_TRUE(workerTempIsWrapper);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), &wnd);
+    wnd.Detach();
 }
 
 TEST(WndMapTest, ObjectThatDiesAttachedDestroysItsWindow) {
