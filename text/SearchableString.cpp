@@ -312,8 +312,8 @@ VU_CSearchableString& VU_CSearchableString::InsertAt(int index, char16_t ch) {
 
 VU_CSearchableString& VU_CSearchableString::InsertAt(int index, const char16_t* text) {
     const int m = Length(text);
-    if (m == 0 || index < 0)
-        return *this;
+    if (m == 0 || index < 0 || static_cast<long long>(index) + m > INT_MAX)
+        return *this; // nothing to insert, or a result no string can hold
     const TextView old = View();
     std::u16string out;
     if (index < static_cast<int>(old.size())) {
@@ -349,7 +349,7 @@ VU_CSearchableString& VU_CSearchableString::ReplaceAt(int index, int count, cons
     index = std::clamp(index, 0, n);
     count = std::clamp(count, 0, n - index);
     const int m = Length(text);
-    if (count == 0 && m == 0)
+    if ((count == 0 && m == 0) || static_cast<long long>(n) - count + m > INT_MAX)
         return *this;
     const TextView old = View();
     std::u16string out;
@@ -392,7 +392,7 @@ int VU_CSearchableString::FindExact(const char16_t* text, int start, BOOL wholeW
 }
 
 int VU_CSearchableString::FindN(char16_t ch, int from, int to, BOOL wholeWord) {
-    if (from == to)
+    if (from == to && from < INT_MAX)
         to = from + 1;
     const int n = GetLength();
     from = std::max(from, 0);
