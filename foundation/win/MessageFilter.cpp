@@ -66,6 +66,8 @@ LRESULT VU_CMessageFilter::AfterMessage(UINT, WPARAM, LPARAM) {
 }
 
 void VU_CMessageFilter::ListenTo(HWND hWnd) {
+    if (hWnd == nullptr || !IsWindow(hWnd)) // nothing to watch: stay idle
+        return;
     m_pfnPrevWndProc = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(
         hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&VU_CMessageFilter::WindowProc)));
     m_hWnd = hWnd;

@@ -32,8 +32,9 @@ public:
     VU_CMessageFilter& operator=(const VU_CMessageFilter&) = default;
 
     // Operations
-    // Starts watching a window. A filter that already listens is registered
-    // a second time; call StopListening first.
+    // Starts watching a window (a null or dead handle leaves the filter
+    // idle). A filter that already listens is registered a second time;
+    // call StopListening first.
     void ListenTo(HWND hWnd);
     // Stops watching; does nothing when not listening.
     void StopListening();

@@ -239,6 +239,21 @@ TEST_F(MessageFilterTest, StoppingACopyThatIsNotRegisteredOnlyClearsTheCopy) {
     original.StopListening();
 }
 
+TEST_F(MessageFilterTest, ListeningToNoWindowLeavesTheFilterIdle) {
+    RecordingFilter filter("filter", &log);
+    const int watchedBefore = VU_CMessageFilter::GetWatchedWindowCount();
+    filter.ListenTo(nullptr);
+    EXPECT_FALSE(filter.IsHooked());
+    HWND dead =
+        CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    DestroyWindow(dead);
+    filter.ListenTo(dead);
+    EXPECT_FALSE(filter.IsHooked());
+    EXPECT_EQ(filter.GetHookedWindow(), nullptr);
+    EXPECT_EQ(VU_CMessageFilter::GetWatchedWindowCount(), watchedBefore);
+    filter.StopListening();
+}
+
 // ---- destruction -------------------------------------------------------------
 
 TEST(MessageFilterDestroyTest, FiltersLeavingDuringTheirOwnWmDestroy) {
