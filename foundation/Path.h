@@ -24,6 +24,9 @@ public:
     // empty path changes nothing.
     void SetPath(const char16_t* path);
     void Clear();
+    // FullPath = Drive ':' Dir '\' Root '.' Ext, each part only when present
+    // (the separator only when Dir does not end in one).
+    void BuildPath();
 
     // Attributes
     const CString& GetDrive() const { return m_Drive; }
@@ -87,7 +90,6 @@ public:
     static constexpr int kMaxPath = 261;
 
 private:
-    void BuildPath();
     void SetMachineAndShare();
 
     CString m_Drive;    // letter alone, no colon

@@ -118,6 +118,10 @@ TEST_F(PathFileSystem, MakeAbsoluteResolvesDotsTextually) {
     EXPECT_EQ(Ascii(p.GetFullPath().View()), Ascii(In({u"b", u"f.txt"})));
     EXPECT_EQ(Ascii(p.GetRoot().View()), "f");
 
+    AF_CPath dir((In({u"a", u"..", u"b"}) + kSep).c_str()); // a trailing separator stays
+    EXPECT_TRUE(dir.MakeAbsolute());
+    EXPECT_EQ(Ascii(dir.GetFullPath().View()), Ascii(In({u"b"}) + kSep));
+
     AF_CPath relative((std::u16string(u"x") + kSep + u"y.txt").c_str());
     EXPECT_TRUE(relative.MakeAbsolute());
     const std::u16string expected = AF_CPath::GetCwd().Str() + kSep + u"x" + kSep + u"y.txt";
