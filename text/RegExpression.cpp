@@ -786,17 +786,9 @@ void VU_CRegExpression::ClearGroups() {
 }
 
 bool VU_CRegExpression::regtry(const char16_t* position) {
-    const unsigned long long stepsBefore = m_stepsLeft;
     m_input = position;
     ClearGroups();
-    MatchResult result = regmatch<uint32_t>(m_program);
-    if (result == MatchResult::NeedWidePositions) {
-        // Offsets beyond 32 bits: run the same attempt with wide records.
-        m_stepsLeft = stepsBefore;
-        m_input = position;
-        ClearGroups();
-        result = regmatch<uint64_t>(m_program);
-    }
+    const MatchResult result = regmatch(m_program);
     if (result == MatchResult::OutOfSteps) {
         m_stepLimitExceeded = true;
         ClearGroups();
@@ -865,20 +857,71 @@ const char16_t* VU_CRegExpression::SkipDeadAlternatives(const char16_t* alt, cha
 
 // regmatch: depth-first search over the program from `start` at m_input.
 // The recursion of the classic matcher is replaced by a stack of records in
-// m_stack (32-bit words, the header word on top):
-//   choice of the remaining alternatives  [pos][alt << 2 | 0]
-//   choice of shorter repetitions         [start][count][node << 2 | 1]
-//   group boundary passed                 [pos][slot << 2 | 2]
-// A failure pops back to the latest choice. On success the group positions
-// are read from the boundary records, the latest per group winning, which
-// is what the recursive matcher records while it returns.
-// Pos is uint32_t (offsets from the string start, 4 G units) or uint64_t.
-template <class Pos>
-VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start) {
-    constexpr size_t kPosWords = sizeof(Pos) / sizeof(uint32_t);
-    constexpr bool kNarrow = kPosWords == 1;
-    enum : uint32_t { kBranch = 0, kRepeat = 1, kGroup = 2 };
+// m_stack, 32-bit words with the header word on top. Each record holds its
+// input position as the distance from the record below (the first from the
+// start of the attempt), so that the records of a long loop stay one word:
+//   choice of the remaining alternatives  [alt offset:26][distance:4][0]
+//   group boundary passed                 [distance:25][slot:5][2]
+//   choice of shorter repetitions         [count:64][distance:64][node offset:30][1]
+// A distance field of all ones means the distance follows in the two words
+// below the header. A failure pops back to the latest choice. On success the
+// group positions are read from the boundary records, the latest per group
+// winning, which is what the recursive matcher records while it returns.
+namespace {
 
+enum RecordKind : uint32_t { kBranchRecord = 0, kRepeatRecord = 1, kGroupRecord = 2 };
+constexpr uint32_t kBranchDistanceEscape = 15;
+constexpr uint32_t kGroupDistanceEscape = (1u << 25) - 1;
+
+struct Record {
+    uint32_t kind;
+    uint32_t payload;  // node offset or group slot
+    uint64_t distance; // from the position of the record below
+    size_t words;
+};
+
+inline uint64_t ReadWide(const std::vector<uint32_t>& stack, size_t at) {
+    return uint64_t(stack[at]) | (uint64_t(stack[at + 1]) << 32);
+}
+
+inline void PushWide(std::vector<uint32_t>& stack, uint64_t value) {
+    stack.push_back(uint32_t(value));
+    stack.push_back(uint32_t(value >> 32));
+}
+
+// The record whose header is at stack[end - 1].
+inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
+    const uint32_t header = stack[end - 1];
+    Record r{header & 3, 0, 0, 1};
+    switch (r.kind) {
+    case kGroupRecord:
+        r.payload = (header >> 2) & 31;
+        r.distance = header >> 7;
+        if (r.distance == kGroupDistanceEscape) {
+            r.distance = ReadWide(stack, end - 3);
+            r.words = 3;
+        }
+        break;
+    case kBranchRecord:
+        r.payload = (header >> 2) & ((1u << 26) - 1);
+        r.distance = header >> 28;
+        if (r.distance == kBranchDistanceEscape) {
+            r.distance = ReadWide(stack, end - 3);
+            r.words = 3;
+        }
+        break;
+    default:
+        r.payload = header >> 2;
+        r.distance = ReadWide(stack, end - 3);
+        r.words = 5;
+        break;
+    }
+    return r;
+}
+
+} // namespace
+
+VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start) {
     const char16_t* const base = m_stringStart;
     const char16_t* const program = m_program;
     std::vector<uint32_t>& stack = m_stack;
@@ -886,24 +929,35 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
     unsigned long long steps = m_stepsLeft;
     const char16_t* in = m_input;
     const char16_t* node = start;
+    uint64_t top = uint64_t(in - base); // position of the top record
 
-    auto push = [&stack](uint64_t value) {
-        stack.push_back(uint32_t(value));
-        if constexpr (!kNarrow)
-            stack.push_back(uint32_t(value >> 32));
-    };
-    auto read = [&stack](size_t at) -> uint64_t {
-        if constexpr (kNarrow)
-            return stack[at];
-        else
-            return uint64_t(stack[at]) | (uint64_t(stack[at + 1]) << 32);
-    };
-    auto write = [&stack](size_t at, uint64_t value) {
-        stack[at] = uint32_t(value);
-        if constexpr (!kNarrow)
-            stack[at + 1] = uint32_t(value >> 32);
-    };
     auto offsetOf = [program](const char16_t* p) { return uint32_t(p - program); };
+    auto pushBranch = [&](const char16_t* alt, uint64_t pos) {
+        const uint64_t distance = pos - top;
+        top = pos;
+        uint32_t field = uint32_t(distance);
+        if (distance >= kBranchDistanceEscape) {
+            PushWide(stack, distance);
+            field = kBranchDistanceEscape;
+        }
+        stack.push_back(kBranchRecord | offsetOf(alt) << 2 | field << 28);
+    };
+    auto pushGroup = [&](uint32_t slot, uint64_t pos) {
+        const uint64_t distance = pos - top;
+        top = pos;
+        uint32_t field = uint32_t(distance);
+        if (distance >= kGroupDistanceEscape) {
+            PushWide(stack, distance);
+            field = kGroupDistanceEscape;
+        }
+        stack.push_back(kGroupRecord | slot << 2 | field << 7);
+    };
+    auto pushRepeat = [&](const char16_t* repeat, uint64_t pos, uint64_t count) {
+        PushWide(stack, count);
+        PushWide(stack, pos - top);
+        top = pos;
+        stack.push_back(kRepeatRecord | offsetOf(repeat) << 2);
+    };
 
     for (;;) {
         // ---- advance along the program until success or failure
@@ -975,13 +1029,8 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                 const char16_t* rest = regnext(first);
                 rest =
                     rest && OP(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
-                if (rest) {
-                    const uint64_t pos = uint64_t(in - base);
-                    if (kNarrow && pos > UINT32_MAX)
-                        return MatchResult::NeedWidePositions;
-                    push(pos);
-                    stack.push_back(offsetOf(rest) << 2 | kBranch);
-                }
+                if (rest)
+                    pushBranch(rest, uint64_t(in - base));
                 next = OPERAND(first);
                 break;
             }
@@ -1012,56 +1061,38 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                         break;
                     }
                 }
-                if (k > minimum) {
-                    const uint64_t pos = uint64_t(in - base);
-                    if (kNarrow && pos + count > UINT32_MAX)
-                        return MatchResult::NeedWidePositions;
-                    push(pos);
-                    push(k);
-                    stack.push_back(offsetOf(node) << 2 | kRepeat);
-                }
+                if (k > minimum)
+                    pushRepeat(node, uint64_t(in - base), k);
                 in += k;
                 break;
             }
             case OpEnd: {
                 // Success: the latest boundary record of each group wins.
                 bool seen[2 * kGroupCount] = {};
-                for (size_t top = stack.size(); top > 0;) {
-                    const uint32_t header = stack[top - 1];
-                    const uint32_t kind = header & 3;
-                    if (kind == kGroup) {
-                        const uint32_t slot = header >> 2;
-                        const char16_t* at = base + read(top - 1 - kPosWords);
-                        if (!seen[slot]) {
-                            seen[slot] = true;
-                            if (slot < kGroupCount)
-                                m_groupStart[slot] = at;
-                            else
-                                m_groupEnd[slot - kGroupCount] = at;
-                        }
+                uint64_t pos = top;
+                for (size_t end = stack.size(); end > 0;) {
+                    const Record r = DecodeRecord(stack, end);
+                    if (r.kind == kGroupRecord && !seen[r.payload]) {
+                        seen[r.payload] = true;
+                        if (r.payload < kGroupCount)
+                            m_groupStart[r.payload] = base + pos;
+                        else
+                            m_groupEnd[r.payload - kGroupCount] = base + pos;
                     }
-                    top -= 1 + (kind == kRepeat ? 2 : 1) * kPosWords;
+                    pos -= r.distance;
+                    end -= r.words;
                 }
                 m_input = in;
                 m_stepsLeft = steps;
                 return MatchResult::Match;
             }
             default:
-                if (op > OpGroupOpen && op < OpGroupOpen + kGroupCount) {
-                    const uint64_t pos = uint64_t(in - base);
-                    if (kNarrow && pos > UINT32_MAX)
-                        return MatchResult::NeedWidePositions;
-                    push(pos);
-                    stack.push_back(uint32_t(op - OpGroupOpen) << 2 | kGroup);
-                } else if (op > OpGroupClose && op < OpGroupClose + kGroupCount) {
-                    const uint64_t pos = uint64_t(in - base);
-                    if (kNarrow && pos > UINT32_MAX)
-                        return MatchResult::NeedWidePositions;
-                    push(pos);
-                    stack.push_back(uint32_t(kGroupCount + op - OpGroupClose) << 2 | kGroup);
-                } else {
+                if (op > OpGroupOpen && op < OpGroupOpen + kGroupCount)
+                    pushGroup(uint32_t(op - OpGroupOpen), uint64_t(in - base));
+                else if (op > OpGroupClose && op < OpGroupClose + kGroupCount)
+                    pushGroup(uint32_t(kGroupCount + op - OpGroupClose), uint64_t(in - base));
+                else
                     failed = true; // not an opcode
-                }
                 break;
             }
             if (!failed)
@@ -1079,65 +1110,59 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                 m_stepsLeft = 0;
                 return MatchResult::OutOfSteps;
             }
-            const uint32_t header = stack.back();
-            switch (header & 3) {
-            case kGroup:
-                stack.resize(stack.size() - 1 - kPosWords);
-                break;
-            case kBranch: {
-                const size_t at = stack.size() - 1 - kPosWords;
-                const uint64_t pos = read(at);
-                stack.resize(at);
-                const char16_t* alt = program + (header >> 2);
+            const Record r = DecodeRecord(stack, stack.size());
+            const uint64_t pos = top;
+            if (r.kind == kGroupRecord) {
+                stack.resize(stack.size() - r.words);
+                top = pos - r.distance;
+                continue;
+            }
+            if (r.kind == kBranchRecord) {
+                stack.resize(stack.size() - r.words);
+                top = pos - r.distance;
+                const char16_t* alt = program + r.payload;
                 in = base + pos;
                 const char16_t* rest = regnext(alt);
                 rest =
                     rest && OP(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
-                if (rest) {
-                    push(pos);
-                    stack.push_back(offsetOf(rest) << 2 | kBranch);
-                }
+                if (rest)
+                    pushBranch(rest, pos);
                 node = OPERAND(alt);
                 resumed = true;
-                break;
+                continue;
             }
-            default: { // kRepeat
-                const size_t countAt = stack.size() - 1 - kPosWords;
-                const size_t startAt = countAt - kPosWords;
-                const char16_t* repeat = program + (header >> 2);
-                const char16_t* next = regnext(repeat);
-                const size_t minimum = OP(repeat) == OpStar ? 0 : 1;
-                const char16_t lookAhead = next && OP(next) == OpLiteral ? *OPERAND(next) : 0;
-                const char16_t* from = base + read(startAt);
-                size_t k = size_t(read(countAt));
-                bool found = false;
-                while (k > minimum) {
-                    --k;
-                    if (!lookAhead || from[k] == lookAhead) {
-                        found = true;
-                        break;
-                    }
-                }
-                if (!found) {
-                    stack.resize(startAt);
+            // A repetition: the next shorter count the following literal can
+            // follow, if any.
+            const char16_t* repeat = program + r.payload;
+            const char16_t* next = regnext(repeat);
+            const size_t minimum = OP(repeat) == OpStar ? 0 : 1;
+            const char16_t lookAhead = next && OP(next) == OpLiteral ? *OPERAND(next) : 0;
+            const char16_t* from = base + pos;
+            const size_t countAt = stack.size() - r.words;
+            size_t k = size_t(ReadWide(stack, countAt));
+            bool found = false;
+            while (k > minimum) {
+                --k;
+                if (!lookAhead || from[k] == lookAhead) {
+                    found = true;
                     break;
                 }
-                if (k > minimum)
-                    write(countAt, k);
-                else
-                    stack.resize(startAt);
+            }
+            if (found && k > minimum) {
+                stack[countAt] = uint32_t(k);
+                stack[countAt + 1] = uint32_t(uint64_t(k) >> 32);
+            } else {
+                stack.resize(countAt);
+                top = pos - r.distance;
+            }
+            if (found) {
                 in = from + k;
                 node = next;
                 resumed = true;
-                break;
-            }
             }
         }
     }
 }
-
-template VU_CRegExpression::MatchResult VU_CRegExpression::regmatch<uint32_t>(const char16_t*);
-template VU_CRegExpression::MatchResult VU_CRegExpression::regmatch<uint64_t>(const char16_t*);
 
 // ---- Results -----------------------------------------------------------
 

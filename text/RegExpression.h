@@ -116,7 +116,7 @@ private:
         uint32_t node; // offset of the node in the program
         CharRanges members;
     };
-    enum class MatchResult { Fail, Match, OutOfSteps, NeedWidePositions };
+    enum class MatchResult { Fail, Match, OutOfSteps };
 
     // Parser, one step per grammar level
     char16_t* reg(bool paren, int& flags);
@@ -138,7 +138,7 @@ private:
     static char16_t* OPERAND(char16_t* p) { return p + kNodeUnits; }
     // Matcher
     bool regtry(const char16_t* position);
-    template <class Pos> MatchResult regmatch(const char16_t* node);
+    MatchResult regmatch(const char16_t* node);
     size_t regrepeat(const char16_t* node, const char16_t* at) const;
     bool InSet(const char16_t* node, char16_t c) const;
     const SetInfo* FindSetInfo(const char16_t* node) const;

@@ -224,6 +224,50 @@ TEST(RegExpressionMatcher, AgreesWithTheRecursiveReference) {
     EXPECT_GT(matched, compared / 5); // the generator must produce real matches
 }
 
+TEST(RegExpressionMatcher, AgreesWithTheReferenceWhereChoicesLieFarApart) {
+    // Choices and group boundaries far from the previous record exercise the
+    // long-distance form of the backtracking records.
+    const char16_t* patterns[] = {u"a?c*d?e",         u"(c*)(d|dc)a", u"x*(c+)(d|dd)b",
+                                  u"([abc]*)(a|b)*d", u"(.)*-(a|b)?", u"b?[^d]*(d|da)+"};
+    // Backtracking over a choice 20 units above the record below it.
+    const std::u16string c20(20, u'c');
+    const std::pair<std::u16string, std::u16string> pairs[] = {
+        {u"(a?)" + c20 + u"d?(e|dx)", u"a" + c20 + u"dx"},
+        {u"(a?)" + c20 + u"d?(e|dx)", u"-" + c20 + u"dx"},
+        {u"(b|a)" + c20 + u"(d|dx)?y", u"a" + c20 + u"dxy"},
+    };
+    for (const auto& [pattern, text] : pairs) {
+        SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
+        VU_CRegExpression re;
+        ASSERT_NE(re.RegComp(pattern.c_str()), nullptr);
+        ReferenceMatcher reference(re.GetProgram());
+        const int expected = reference.Find(text.c_str());
+        ASSERT_GE(expected, 0);
+        ASSERT_EQ(re.RegFind(text.c_str()), expected);
+        for (int n = 0; n < 10; ++n) {
+            EXPECT_EQ(re.GetGroupStart(n), reference.Start(n)) << "group " << n;
+            EXPECT_EQ(re.GetGroupEnd(n), reference.End(n)) << "group " << n;
+        }
+    }
+    RegExpressionPatternGenerator gen(5);
+    for (const char16_t* pattern : patterns) {
+        VU_CRegExpression re;
+        ASSERT_NE(re.RegComp(pattern), nullptr);
+        ReferenceMatcher reference(re.GetProgram());
+        for (int t = 0; t < 300; ++t) {
+            std::u16string text = gen.Text(60);
+            text.insert(gen.Below(text.size() + 1), std::u16string(gen.Below(40), u'c'));
+            SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
+            const int expected = reference.Find(text.c_str());
+            ASSERT_EQ(re.RegFind(text.c_str()), expected);
+            for (int n = 0; n < 10 && expected >= 0; ++n) {
+                ASSERT_EQ(re.GetGroupStart(n), reference.Start(n)) << "group " << n;
+                ASSERT_EQ(re.GetGroupEnd(n), reference.End(n)) << "group " << n;
+            }
+        }
+    }
+}
+
 // ---- Subjects of several megabytes -------------------------------------------
 
 constexpr size_t kUnits = 5 * 1024 * 1024; // 10 MB of UTF-16
@@ -254,6 +298,9 @@ TEST(RegExpressionMatcher, LongSubjectsDoNotExhaustTheStack) {
          int(kUnits) - 4, int(kUnits) - 2},
         {".*z at the end", u"(.)*z", mixed + u"z", 0, int(kUnits) + 1, int(kUnits) - 1,
          int(kUnits)},
+        // A group boundary more than 2^25 units after the previous record.
+        {"far boundary", u"(a)[^z]*(z)", Repeat(u"ab", 7 * kUnits) + u"z", 0, int(7 * kUnits) + 1,
+         0, 1},
     };
     for (Row& row : rows) {
         SCOPED_TRACE(row.name);
