@@ -11,7 +11,7 @@
 // do the same work.
 //
 //   cmake --build build/native --target bench_searchable_string
-//   build/native/bench/bench_searchable_string
+//   build/native/bench/bench_searchable_string [--benchmark_filter=ReplaceAll]
 #include "text/SearchableString.h"
 
 #include "framework/CaseMap.h"
@@ -307,15 +307,15 @@ BENCHMARK(ReplaceAll_IcuRegex)->Arg(1)->Arg(16)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-// Replace-all hands back a new text each time, where the peers write into a
-// buffer allocated once. With glibc's defaults a freed block of several MB is
-// returned to the system and the next one is faulted in page by page, which on
-// a virtual machine can cost more than the replacement itself. Keeping freed
-// memory in the process, as a long-running host does, measures the work
-// rather than the kernel. VU_BENCH_DEFAULT_MALLOC=1 keeps the defaults.
+// Replace-all hands back a new text, where the peers write into a buffer
+// allocated once. Depending on the sizes, glibc may hand the freed blocks back
+// to the system, and the next text is then faulted in page by page, which on a
+// virtual machine can cost more than the replacement. VU_BENCH_KEEP_HEAP=1
+// keeps freed memory in the process, as a long-running host's heap does, to
+// measure the work without the kernel.
 int main(int argc, char** argv) {
 #if defined(__GLIBC__)
-    if (!std::getenv("VU_BENCH_DEFAULT_MALLOC")) {
+    if (std::getenv("VU_BENCH_KEEP_HEAP")) {
         mallopt(M_MMAP_THRESHOLD, 256 << 20);
         mallopt(M_TRIM_THRESHOLD, 512 << 20);
     }

@@ -6,10 +6,10 @@
 #include <climits>
 #include <cstdint>
 #include <cstring>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <typeinfo>
-#include <vector>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -536,44 +536,49 @@ inline char16_t* CopyExact(char16_t* to, const char16_t* from, std::size_t n) {
     return to + n;
 }
 
-// Builds `text` with every run replaced by `replacement`; the runs are
-// ascending and disjoint, and runOf(k) gives the k-th of count runs. The
-// result is allocated once at its exact size. Returns false, leaving `out`
-// empty, when the result would be too long for a string.
-template <class RunOf>
-bool Rebuild(std::u16string_view text, std::size_t count, RunOf&& runOf,
-             std::u16string_view replacement, long long removed, std::u16string& out) {
-    const long long size =
-        static_cast<long long>(text.size()) - removed +
-        static_cast<long long>(count) * static_cast<long long>(replacement.size());
-    if (size > INT_MAX)
-        return false;
-    out.resize(static_cast<std::size_t>(size));
-    // The writes go left to right, so what a chunk copy writes past its end
-    // is overwritten by the next copy; near either end the copies are exact.
-    std::u16string padded(replacement);
-    padded.resize(replacement.size() + kChunk);
-    char16_t* to = out.data();
-    char16_t* const safeEnd = to + out.size();
-    const char16_t* const from = text.data();
-    std::size_t copied = 0;
-    for (std::size_t k = 0; k < count; ++k) {
-        const Run run = runOf(k);
-        const std::size_t gap = run.at - copied;
-        const bool slack = copied + gap + kChunk <= text.size() &&
-                           to + gap + replacement.size() + kChunk <= safeEnd;
-        if (slack) {
-            to = CopyWithSlack(to, from + copied, gap);
-            to = CopyWithSlack(to, padded.data(), replacement.size());
-        } else {
-            to = CopyExact(to, from + copied, gap);
-            to = CopyExact(to, replacement.data(), replacement.size());
-        }
-        copied = static_cast<std::size_t>(run.at) + run.length;
-    }
-    CopyExact(to, from + copied, text.size() - copied);
-    return true;
+// Size of a text of textSize units after `count` stretches of `removed` units
+// in all were replaced by `replacement`; false when no string can hold it.
+bool ResultSize(std::size_t textSize, std::size_t count, long long removed, std::size_t replacement,
+                std::size_t& size) {
+    const long long result = static_cast<long long>(textSize) - removed +
+                             static_cast<long long>(count) * static_cast<long long>(replacement);
+    size = static_cast<std::size_t>(result);
+    return result <= INT_MAX;
 }
+
+// Writes `text` with stretches replaced by `replacement` into `out`, which the
+// caller has sized to the result. The writes go left to right, so what a
+// chunk copy writes past its end is overwritten by the next copy; near either
+// end the copies are exact.
+class Rebuilder {
+public:
+    Rebuilder(std::u16string_view text, std::u16string_view replacement, std::u16string& out)
+        : m_text(text), m_replacement(replacement), m_padded(replacement), m_to(out.data()),
+          m_end(out.data() + out.size()) {
+        m_padded.resize(replacement.size() + kChunk);
+    }
+    // Stretches come in ascending order and do not overlap.
+    void Replace(std::size_t at, std::size_t length) {
+        const std::size_t gap = at - m_copied;
+        const char16_t* from = m_text.data() + m_copied;
+        if (at + kChunk <= m_text.size() && m_to + gap + m_replacement.size() + kChunk <= m_end) {
+            m_to = CopyWithSlack(m_to, from, gap);
+            m_to = CopyWithSlack(m_to, m_padded.data(), m_replacement.size());
+        } else {
+            m_to = CopyExact(m_to, from, gap);
+            m_to = CopyExact(m_to, m_replacement.data(), m_replacement.size());
+        }
+        m_copied = at + length;
+    }
+    void Finish() { CopyExact(m_to, m_text.data() + m_copied, m_text.size() - m_copied); }
+
+private:
+    std::u16string_view m_text, m_replacement;
+    std::u16string m_padded; // the replacement with room for chunk reads
+    char16_t* m_to;
+    char16_t* const m_end;
+    std::size_t m_copied = 0; // units of the text dealt with
+};
 
 } // namespace
 
@@ -586,18 +591,27 @@ int VU_CSearchableString::ReplaceAllInOnePass(const char16_t* find, int m,
     if (noCase)
         lowered = Lowered(find, m);
     const Needle needle(noCase ? lowered.c_str() : find, m, noCase);
-    std::vector<int> found;
-    ForEachOccurrence(GetString(), GetLength(), 0, needle, [&](int p) {
-        found.push_back(p);
+    // Count first, so that the result is allocated once at its size, then
+    // write it in a second scan.
+    const TextView text = View();
+    const int n = GetLength();
+    std::size_t count = 0, size = 0;
+    ForEachOccurrence(text.data(), n, 0, needle, [&count](int) {
+        ++count;
         return true;
     });
-    std::u16string out;
-    const auto runOf = [&](std::size_t k) { return Run{found[k], m}; };
-    if (found.empty() || !Rebuild(View(), found.size(), runOf, replacement,
-                                  static_cast<long long>(found.size()) * m, out))
+    if (count == 0 || !ResultSize(text.size(), count, static_cast<long long>(count) * m,
+                                  replacement.size(), size))
         return 0;
+    std::u16string out(size, u'\0');
+    Rebuilder rebuilder(text, replacement, out);
+    ForEachOccurrence(text.data(), n, 0, needle, [&rebuilder, m](int p) {
+        rebuilder.Replace(static_cast<std::size_t>(p), static_cast<std::size_t>(m));
+        return true;
+    });
+    rebuilder.Finish();
     SetText(std::move(out));
-    return static_cast<int>(found.size());
+    return static_cast<int>(count);
 }
 
 int VU_CSearchableString::ReplaceText(const char16_t* find, const char16_t* replacement, BOOL all,
@@ -681,7 +695,9 @@ int VU_CSearchableString::FindReplaceRegularExp(const char16_t* pattern,
 int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view replacement) {
     const int n = GetLength();
     const char16_t* s = GetString();
-    std::vector<Run> runs;
+    // Matches are kept in small blocks: a run of huge reallocations would
+    // cost more than the replacement on a large text.
+    std::deque<Run> runs;
     long long removed = 0;
     for (int from = 0; from <= n;) {
         const int found = m_regExp.RegFind(s + from);
@@ -694,10 +710,14 @@ int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view repl
         // After an empty match the character after it is kept and skipped.
         from = at + std::max(length, 1);
     }
-    std::u16string out;
-    const auto runOf = [&](std::size_t k) { return runs[k]; };
-    if (runs.empty() || !Rebuild(View(), runs.size(), runOf, replacement, removed, out))
+    std::size_t size = 0;
+    if (runs.empty() || !ResultSize(n, runs.size(), removed, replacement.size(), size))
         return 0;
+    std::u16string out(size, u'\0');
+    Rebuilder rebuilder(View(), replacement, out);
+    for (const Run& run : runs)
+        rebuilder.Replace(static_cast<std::size_t>(run.at), static_cast<std::size_t>(run.length));
+    rebuilder.Finish();
     SetText(std::move(out));
     return static_cast<int>(runs.size());
 }
