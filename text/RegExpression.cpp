@@ -65,30 +65,14 @@ VU_CRegExpression& VU_CRegExpression::operator=(VU_CRegExpression&& other) noexc
     if (this == &other)
         return *this;
     Release();
-    // The hint pointers point into the program, which moves with them.
-    m_emitting = other.m_emitting;
-    m_compiled = other.m_compiled;
+    CopyFields(other);
     m_foundText = std::move(other.m_foundText);
-    m_hasFound = other.m_hasFound;
-    std::copy(other.m_groupStart, other.m_groupStart + kGroupCount, m_groupStart);
-    std::copy(other.m_groupEnd, other.m_groupEnd + kGroupCount, m_groupEnd);
-    m_firstChar = other.m_firstChar;
-    m_anchored = other.m_anchored;
-    m_required = other.m_required;
-    m_requiredLength = other.m_requiredLength;
-    m_program = other.m_program;
-    m_programSize = other.m_programSize;
-    m_groupCount = other.m_groupCount;
-    m_input = other.m_input;
-    m_stringStart = other.m_stringStart;
-    m_firstLiteral = other.m_firstLiteral;
-    m_firstLiteralLength = other.m_firstLiteralLength;
-    m_leadingRepeat = other.m_leadingRepeat;
-    m_hasStartSet = other.m_hasStartSet;
     m_startSet = std::move(other.m_startSet);
     m_sets = std::move(other.m_sets);
-    m_stepLimit = other.m_stepLimit;
-    m_stepLimitExceeded = other.m_stepLimitExceeded;
+    // The hint pointers point into the program, which moves with them.
+    m_program = other.m_program;
+    m_required = other.m_required;
+    m_firstLiteral = other.m_firstLiteral;
     other.m_program = nullptr;
     other.m_required = other.m_firstLiteral = nullptr;
     other.m_hasFound = false;
@@ -103,10 +87,10 @@ void VU_CRegExpression::Release() {
     m_hasFound = false;
 }
 
-void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
+// Everything but the owned buffers and the pointers into the program.
+void VU_CRegExpression::CopyFields(const VU_CRegExpression& other) {
     m_emitting = other.m_emitting;
     m_compiled = other.m_compiled;
-    m_foundText = other.m_foundText;
     m_hasFound = other.m_hasFound;
     std::copy(other.m_groupStart, other.m_groupStart + kGroupCount, m_groupStart);
     std::copy(other.m_groupEnd, other.m_groupEnd + kGroupCount, m_groupEnd);
@@ -120,10 +104,15 @@ void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
     m_firstLiteralLength = other.m_firstLiteralLength;
     m_leadingRepeat = other.m_leadingRepeat;
     m_hasStartSet = other.m_hasStartSet;
-    m_startSet = other.m_startSet;
-    m_sets = other.m_sets;
     m_stepLimit = other.m_stepLimit;
     m_stepLimitExceeded = other.m_stepLimitExceeded;
+}
+
+void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
+    CopyFields(other);
+    m_foundText = other.m_foundText;
+    m_startSet = other.m_startSet;
+    m_sets = other.m_sets;
     m_program = nullptr;
     m_required = m_firstLiteral = nullptr;
     if (other.m_program) {

@@ -67,7 +67,8 @@ public:
     // Compiles `pattern`; returns this, or null on a syntax error or a null
     // pattern. After a failed compile the previous program stays in use.
     VU_CRegExpression* RegComp(const char16_t* pattern);
-    // Index of the first match in `string`, or -1.
+    // Index of the first match in `string`, or -1 (also when the search ran
+    // out of steps or memory, or the index would not fit in an int).
     int RegFind(const char16_t* string);
     // Length of the last whole match, 0 when there is none.
     int GetFindLen() const;
@@ -155,6 +156,7 @@ private:
     int FinishMatch(const char16_t* position);
     void ClearGroups();
     void DiscardFoundText() { m_hasFound = false; }
+    void CopyFields(const VU_CRegExpression& other);
     void CopyFrom(const VU_CRegExpression& other);
     void Release();
 

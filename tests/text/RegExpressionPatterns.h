@@ -1,12 +1,34 @@
 #pragma once
 
-// Random patterns and texts for the regular-expression cross-checks: small
+// Helpers of the regular-expression tests: readable text for failure
+// messages, and random patterns and texts for the cross-checks (small
 // alphabets so that matches are frequent, every construct of the dialect,
-// occasionally an invalid pattern.
+// occasionally an invalid pattern).
 
 #include <cstdint>
+#include <cstdio>
 #include <random>
 #include <string>
+#include <string_view>
+
+namespace RegExpressionTestSupport {
+
+// ASCII as is, other units as \uXXXX.
+inline std::string Show(std::u16string_view s) {
+    std::string out;
+    for (char16_t c : s) {
+        if (c >= 0x20 && c < 0x7F) {
+            out.push_back(static_cast<char>(c));
+        } else {
+            char buf[8];
+            std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
+            out += buf;
+        }
+    }
+    return out;
+}
+
+} // namespace RegExpressionTestSupport
 
 class RegExpressionPatternGenerator {
 public:

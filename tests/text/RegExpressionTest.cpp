@@ -3,6 +3,8 @@
 // topic; every row carries a name shown on failure.
 #include "text/RegExpression.h"
 
+#include "RegExpressionPatterns.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -11,19 +13,7 @@
 
 namespace {
 
-std::string Show(std::u16string_view s) {
-    std::string out;
-    for (char16_t c : s) {
-        if (c >= 0x20 && c < 0x7F) {
-            out.push_back(static_cast<char>(c));
-        } else {
-            char buf[8];
-            std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
-            out += buf;
-        }
-    }
-    return out;
-}
+using RegExpressionTestSupport::Show;
 
 std::u16string Replace(VU_CRegExpression& re, const char16_t* templ) {
     std::unique_ptr<char16_t[]> s(re.GetReplaceString(templ));

@@ -20,19 +20,7 @@
 
 namespace {
 
-std::string Show(std::u16string_view s) {
-    std::string out;
-    for (char16_t c : s) {
-        if (c >= 0x20 && c < 0x7F) {
-            out.push_back(static_cast<char>(c));
-        } else {
-            char buf[8];
-            std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
-            out += buf;
-        }
-    }
-    return out;
-}
+using RegExpressionTestSupport::Show;
 
 void AppendCodeUnit(std::u16string& out, char16_t c) {
     char buf[16];
