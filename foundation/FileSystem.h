@@ -8,7 +8,8 @@
 //  - '\' and '/' both separate directories ('\' is read as '/');
 //  - there are no drive letters: a path that begins with a separator (and
 //    is not a UNC path) is rooted at the file-system root '/', which stands
-//    for the drive and its root directory;
+//    for the drive and its root directory: AF_CPath keeps Drive empty and
+//    Dir beginning with the separator ('/tmp/a/f.txt': Dir '/tmp/a');
 //  - the separator added when joining is the one the path already uses, or
 //    '/' when it has none.
 //
