@@ -140,7 +140,10 @@ BOOL VuWaitForMessage(HWND hWnd, UINT msgFilterMin, UINT msgFilterMax, int timeo
     CWinApp* pApp = AfxGetApp();
     pApp->BeginWaitCursor();
     const DWORD start = GetTickCount();
-    const DWORD limit = static_cast<DWORD>(timeoutSeconds > 0 ? timeoutSeconds : 0) * 1000u;
+    // Negative waits nothing; the longest wait is what the tick count can span.
+    const unsigned long long ms =
+        1000ull * static_cast<unsigned>(timeoutSeconds > 0 ? timeoutSeconds : 0);
+    const DWORD limit = static_cast<DWORD>(ms < 0xFFFFFFF0ull ? ms : 0xFFFFFFF0ull);
     bool arrived = false;
     bool timedOut = false;
     while (!arrived && !timedOut) {

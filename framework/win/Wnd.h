@@ -148,7 +148,9 @@ public:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual void PostNcDestroy();
 
-    // Owner-draw, reached through OnChildNotify
+    // Owner-draw, reached through OnChildNotify. The base versions leave the
+    // notification to the parent's own procedure, so a class that does not
+    // draw changes nothing for its parent.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     virtual int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct);
