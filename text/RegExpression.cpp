@@ -539,9 +539,7 @@ void MakeRanges(const char16_t* units, size_t n, std::vector<char16_t>& lo,
 
 } // namespace
 
-bool VU_CRegExpression::CharRanges::Contains(char16_t c) const {
-    if (c < 256)
-        return (ascii[c >> 6] >> (c & 63)) & 1;
+bool VU_CRegExpression::CharRanges::ContainsAbove255(char16_t c) const {
     auto it = std::upper_bound(lo.begin(), lo.end(), c);
     if (it == lo.begin())
         return false;
@@ -663,6 +661,7 @@ void VU_CRegExpression::ComputeStartSet() {
         return;
     std::vector<char16_t> lo, hi;
     RangesFromBits(bits, lo, hi);
+    std::copy(bits.begin(), bits.begin() + 4, m_startSet.ascii);
     if (lo.size() > size_t(VU_CRegExpScan::kMaxRanges))
         return;
     m_startSet.lo = std::move(lo);
@@ -713,7 +712,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
             ClearGroups();
             const char16_t* repeated = m_leadingRepeat ? OPERAND(OPERAND(m_program)) : nullptr;
             for (;;) {
-                if (m_hasStartSet) {
+                if (m_hasStartSet && !m_startSet.Contains(*at)) {
                     at = VU_CRegExpScan::FindInRanges(
                         at, m_startSet.lo.data(), m_startSet.hi.data(), int(m_startSet.lo.size()));
                     if (!at)
@@ -734,7 +733,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
                 if (repeated) {
                     // The attempt here already tried every end of the leading
                     // run, so attempts inside the run would fail the same way.
-                    const size_t run = regrepeat(repeated, at);
+                    const size_t run = m_hasLeadingRun ? m_leadingRun : regrepeat(repeated, at);
                     if (!at[run])
                         break;
                     at += run + 1;
@@ -776,6 +775,7 @@ void VU_CRegExpression::ClearGroups() {
 
 bool VU_CRegExpression::regtry(const char16_t* position) {
     m_input = position;
+    m_hasLeadingRun = false;
     ClearGroups();
     const MatchResult result = regmatch(m_program);
     if (result == MatchResult::OutOfSteps) {
@@ -1035,6 +1035,11 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                         return MatchResult::OutOfSteps;
                     }
                     steps -= cost;
+                }
+                if (node == OPERAND(program) && in == m_input) {
+                    // The leading repetition: the search skips its run.
+                    m_leadingRun = count;
+                    m_hasLeadingRun = true;
                 }
                 if (count < minimum) {
                     failed = true;

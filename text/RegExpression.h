@@ -110,7 +110,10 @@ private:
     struct CharRanges {
         std::vector<char16_t> lo, hi; // inclusive
         uint64_t ascii[4] = {0, 0, 0, 0};
-        bool Contains(char16_t c) const;
+        bool Contains(char16_t c) const {
+            return c < 256 ? ((ascii[c >> 6] >> (c & 63)) & 1) != 0 : ContainsAbove255(c);
+        }
+        bool ContainsAbove255(char16_t c) const;
     };
     // Membership data for one OpInSet/OpNotInSet node.
     struct SetInfo {
@@ -184,6 +187,8 @@ private:
     const char16_t* m_firstLiteral = nullptr; // operand of the leading literal
     uint32_t m_firstLiteralLength = 0;
     bool m_leadingRepeat = false; // program starts with OpStar/OpPlus
+    size_t m_leadingRun = 0;      // its count in the last attempt
+    bool m_hasLeadingRun = false; // m_leadingRun is valid
     bool m_hasStartSet = false;   // every match starts with a char in m_startSet
     CharRanges m_startSet;
     std::vector<SetInfo> m_sets; // sorted by node offset
