@@ -1,6 +1,8 @@
 #include "text/RegExpScan.h"
 
+#include <array>
 #include <cstdint>
+#include <utility>
 
 #if defined(__SSE2__) || defined(_M_X64)
 #include <emmintrin.h>
@@ -246,33 +248,57 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
     return FindLiteralScalar(s, literal, length);
 }
 
+#if VU_REGEXP_SSE2
+namespace {
+
+// FindInRanges for exactly N ranges; with Units every range is one unit and
+// a comparison suffices. Otherwise c is in lo..hi exactly when (c - lo) wraps
+// to at most hi - lo, which a saturating subtraction of (hi - lo) turns into
+// a test for zero.
+template <int N, bool Units>
+const char16_t* FindInRangesOf(const char16_t* s, const char16_t* lo, const char16_t* hi) {
+    __m128i los[N], spans[N];
+    for (int i = 0; i < N; ++i) {
+        los[i] = _mm_set1_epi16(short(lo[i]));
+        spans[i] = _mm_set1_epi16(short(char16_t(hi[i] - lo[i])));
+    }
+    const __m128i zero = _mm_setzero_si128();
+    const char16_t* p = FirstInRegions(s, [&](__m128i v) {
+        __m128i hit = _mm_cmpeq_epi16(v, zero);
+        for (int i = 0; i < N; ++i) {
+            if constexpr (Units)
+                hit = _mm_or_si128(hit, _mm_cmpeq_epi16(v, los[i]));
+            else
+                hit = _mm_or_si128(
+                    hit, _mm_cmpeq_epi16(_mm_subs_epu16(_mm_sub_epi16(v, los[i]), spans[i]), zero));
+        }
+        return hit;
+    });
+    return *p ? p : nullptr;
+}
+
+using RangeScan = const char16_t* (*)(const char16_t*, const char16_t*, const char16_t*);
+
+template <bool Units, int... N>
+constexpr std::array<RangeScan, sizeof...(N)> RangeScans(std::integer_sequence<int, N...>) {
+    return {&FindInRangesOf<N + 1, Units>...};
+}
+
+} // namespace
+#endif
+
 const char16_t* VU_CRegExpScan::FindInRanges(const char16_t* s, const char16_t* lo,
                                              const char16_t* hi, int count) {
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s) && count > 0 && count <= kMaxRanges) {
-        // c is in lo..hi exactly when (c - lo) wraps to at most hi - lo, which
-        // a saturating subtraction of (hi - lo) turns into a test for zero.
-        __m128i los[kMaxRanges], spans[kMaxRanges];
-        bool single[kMaxRanges];
-        for (int i = 0; i < count; ++i) {
-            los[i] = _mm_set1_epi16(short(lo[i]));
-            spans[i] = _mm_set1_epi16(short(char16_t(hi[i] - lo[i])));
-            single[i] = lo[i] == hi[i];
-        }
-        const __m128i zero = _mm_setzero_si128();
-        const char16_t* p = FirstInRegions(s, [&](__m128i v) {
-            __m128i hit = _mm_cmpeq_epi16(v, zero);
-            for (int i = 0; i < count; ++i) {
-                if (single[i]) {
-                    hit = _mm_or_si128(hit, _mm_cmpeq_epi16(v, los[i]));
-                    continue;
-                }
-                const __m128i offset = _mm_sub_epi16(v, los[i]);
-                hit = _mm_or_si128(hit, _mm_cmpeq_epi16(_mm_subs_epu16(offset, spans[i]), zero));
-            }
-            return hit;
-        });
-        return *p ? p : nullptr;
+        static constexpr auto kUnitScans =
+            RangeScans<true>(std::make_integer_sequence<int, kMaxRanges>());
+        static constexpr auto kRangeScans =
+            RangeScans<false>(std::make_integer_sequence<int, kMaxRanges>());
+        bool units = true;
+        for (int i = 0; i < count; ++i)
+            units = units && lo[i] == hi[i];
+        return (units ? kUnitScans : kRangeScans)[size_t(count - 1)](s, lo, hi);
     }
 #endif
     return FindInRangesScalar(s, lo, hi, count);
