@@ -16,7 +16,7 @@
 #endif
 
 // Substring scans. Forward and backward, exact and case-blind. With SSE2 the
-// scans test eight positions at a time: a position is a candidate when its
+// scans test sixteen positions at a time: a position is a candidate when its
 // first character and the character where the needle's last one would fall
 // both fit; only candidates are compared in full. Case-blind scans compare
 // characters lowered through the case map; their candidate test accepts the
@@ -112,8 +112,7 @@ struct Needle {
 
 // Calls onMatch(p) for the occurrences of the needle from `from` on, leftmost
 // first and non-overlapping (the next one begins at or after p + length),
-// until onMatch returns false. Returns the position of the last match
-// reported, or -1.
+// until onMatch returns false. Returns the position where it did, or -1.
 template <bool Folded, class OnMatch>
 int ForEachOccurrenceOf(const char16_t* s, int n, int from, const Needle& nd, OnMatch& onMatch) {
     const int m = nd.length;
