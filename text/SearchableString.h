@@ -17,8 +17,9 @@
 // time linear in the text).
 //
 // Bad input gives a clear result: null texts count as empty, an empty search
-// text is never found, negative start positions count as 0, and edits at a
-// negative index change nothing.
+// text is never found, negative start positions count as 0, inserts and
+// deletes at a negative index change nothing, and an edit whose result no
+// string could hold changes nothing.
 //
 // The destructor is not virtual: do not delete a derived object through a
 // pointer to this class.
