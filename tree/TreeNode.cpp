@@ -1,7 +1,9 @@
 #include "tree/TreeNode.h"
 
+#include "framework/CaseMap.h"
 #include "text/XmlWriter.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -24,8 +26,19 @@ template <typename Stack> void PushChildren(Stack& stack, CTreeNode* node) {
         stack.push_back(node->GetChild(i));
 }
 
-bool EqualNoCase(const CString& a, const CString& b) {
-    return a.CompareNoCase(b) == 0;
+// Whether the first `length` units of a and b (each cut at its end) are equal
+// without regard to case.
+bool EqualPrefixNoCase(const CString& a, const CString& b, int length) {
+    const int la = std::min(a.GetLength(), length);
+    const int lb = std::min(b.GetLength(), length);
+    if (la != lb)
+        return false;
+    const char16_t* pa = a.GetString();
+    const char16_t* pb = b.GetString();
+    for (int i = 0; i < la; ++i)
+        if (pa[i] != pb[i] && vu::ToLower(pa[i]) != vu::ToLower(pb[i]))
+            return false;
+    return true;
 }
 
 } // namespace
@@ -154,7 +167,6 @@ bool CTreeNode::IsParentLastNodeOfParent() const {
 int CTreeNode::FindNoCaseChildString(const CString& text, bool matchParents, int length,
                                      int exactBeforeTab) {
     const int keyLength = length < 0 ? 0 : length;
-    const CString key = text.Left(keyLength);
     std::vector<CTreeNode*> pending{this};
     while (!pending.empty()) {
         CTreeNode* node = pending.back();
@@ -162,12 +174,13 @@ int CTreeNode::FindNoCaseChildString(const CString& text, bool matchParents, int
         const bool candidate = matchParents || node->GetNumberOfChildren() == 0;
         if (candidate) {
             const CString shown = node->GetDisplayText();
-            if (EqualNoCase(key, shown.Left(keyLength))) {
+            if (EqualPrefixNoCase(text, shown, keyLength)) {
                 if (exactBeforeTab == 0)
                     return node->m_handle;
+                // The name is the text before the first tab; it must equal all of text.
                 const int tab = shown.Find(u'\t');
-                const CString name = tab < 0 ? shown : shown.Left(tab);
-                if (EqualNoCase(name, text))
+                const int nameLength = tab < 0 ? shown.GetLength() : tab;
+                if (nameLength == text.GetLength() && EqualPrefixNoCase(text, shown, nameLength))
                     return node->m_handle;
                 continue; // a prefix match with another name ends this subtree
             }
@@ -189,25 +202,33 @@ long CTreeNode::GetXmlRowCounter() {
 }
 
 void CTreeNode::AppendOwnXml(AF_GString& out, long row, bool selected) const {
+    // Element names made once: building them per row costs more than writing them.
+    static const AF_GString kNode(u"HbxListNode");
+    static const AF_GString kId(u"id");
+    static const AF_GString kExpanded(u"expanded");
+    static const AF_GString kSelected(u"selected");
+    static const AF_GString kText(u"text");
+    static const AF_GString kParent(u"parent");
+
     VU_CXmlWriter writer;
-    writer.WriteStartElement(AF_GString(u"HbxListNode"));
-    writer.WriteStartElement(AF_GString(u"id"));
+    writer.WriteStartElement(kNode);
+    writer.WriteStartElement(kId);
     writer.WriteElementValue(row);
     writer.WriteEndElement();
-    writer.WriteStartElement(AF_GString(u"expanded"));
+    writer.WriteStartElement(kExpanded);
     writer.WriteElementValue(m_expanded != 0);
     writer.WriteEndElement();
-    writer.WriteStartElement(AF_GString(u"selected"));
+    writer.WriteStartElement(kSelected);
     writer.WriteElementValue(selected);
     writer.WriteEndElement();
-    writer.WriteStartElement(AF_GString(u"text"));
+    writer.WriteStartElement(kText);
     writer.WriteElementString(ToGString(GetDisplayText()));
     writer.WriteEndElement();
-    writer.WriteStartElement(AF_GString(u"parent"));
+    writer.WriteStartElement(kParent);
     writer.WriteElementString(m_parent ? ToGString(m_parent->GetDisplayText()) : AF_GString());
     writer.WriteEndElement();
     writer.WriteEndElement();
-    out += writer.ToString();
+    out += writer.GetOutput();
 }
 
 void CTreeNode::AppendXml(AF_GString& out) {
@@ -222,8 +243,17 @@ void CTreeNode::AppendXml(AF_GString& out) {
     }
 }
 
+size_t CTreeNode::EstimateXmlSize() const {
+    // Room for every row at a generous guess: reserving room that is never
+    // written costs nothing, while growing a large string step by step copies
+    // it each time (and, under some heaps, faults in fresh pages each time).
+    constexpr size_t kCharsPerRow = 256;
+    return (1 + static_cast<size_t>(ComputeNumberOfExpandedNodesShowing())) * kCharsPerRow;
+}
+
 AF_GString CTreeNode::XmlGetString() {
     AF_GString out;
+    out.reserve(EstimateXmlSize());
     AppendXml(out);
     return out;
 }

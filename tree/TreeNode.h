@@ -84,6 +84,8 @@ public:
 
     // Appends the subtree's XML to out (what XmlGetString returns).
     void AppendXml(AF_GString& out);
+    // A generous guess of the length of the subtree's XML, in characters.
+    size_t EstimateXmlSize() const;
 
 protected:
     // Entry 2*state (normal) or 2*state+1; -1 past the end.

@@ -33,6 +33,11 @@ void CTreeNodeArray::Accept(VU_ATreeNodeVisitor* visitor) {
 
 AF_GString CTreeNodeArray::XmlGetString() {
     AF_GString out;
+    size_t estimate = 0;
+    for (INT_PTR i = 0; i < GetSize(); ++i)
+        if (const CTreeNode* node = GetAt(i))
+            estimate += node->EstimateXmlSize();
+    out.reserve(estimate);
     for (INT_PTR i = 0; i < GetSize(); ++i)
         if (CTreeNode* node = GetAt(i))
             node->AppendXml(out);
