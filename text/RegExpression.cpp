@@ -528,13 +528,40 @@ void RangesFromBits(const std::vector<uint64_t>& bits, std::vector<char16_t>& lo
         hi.push_back(char16_t(0xFFFF));
 }
 
-// Sorted, merged inclusive ranges of the given units.
+// Sorted, merged inclusive ranges of the given units: a sort for small
+// lists, a 65536-bit map for large ones.
 void MakeRanges(const char16_t* units, size_t n, std::vector<char16_t>& lo,
                 std::vector<char16_t>& hi) {
-    std::vector<uint64_t> bits(65536 / 64, 0);
-    for (size_t i = 0; i < n; ++i)
-        bits[units[i] >> 6] |= uint64_t(1) << (units[i] & 63);
-    RangesFromBits(bits, lo, hi);
+    if (n > 4096) {
+        std::vector<uint64_t> bits(65536 / 64, 0);
+        for (size_t i = 0; i < n; ++i)
+            bits[units[i] >> 6] |= uint64_t(1) << (units[i] & 63);
+        RangesFromBits(bits, lo, hi);
+        return;
+    }
+    std::vector<char16_t> sorted(units, units + n);
+    std::sort(sorted.begin(), sorted.end());
+    lo.clear();
+    hi.clear();
+    for (char16_t c : sorted) {
+        if (c == 0)
+            continue;
+        if (!hi.empty() && uint32_t(c) <= uint32_t(hi.back()) + 1) {
+            hi.back() = std::max(hi.back(), c);
+            continue;
+        }
+        lo.push_back(c);
+        hi.push_back(c);
+    }
+}
+
+// The Latin-1 part of a set of ranges as a bitmap.
+void FillLatin1(const std::vector<char16_t>& lo, const std::vector<char16_t>& hi,
+                uint64_t bitmap[4]) {
+    std::fill(bitmap, bitmap + 4, 0);
+    for (size_t i = 0; i < lo.size() && lo[i] < 256; ++i)
+        for (uint32_t c = lo[i]; c <= hi[i] && c < 256; ++c)
+            bitmap[c >> 6] |= uint64_t(1) << (c & 63);
 }
 
 } // namespace
@@ -563,9 +590,7 @@ void VU_CRegExpression::BuildSetInfo() {
         SetInfo info;
         info.node = uint32_t(operand - kNodeUnits - m_program);
         MakeRanges(operand, n, info.members.lo, info.members.hi);
-        for (size_t i = 0; i < n; ++i)
-            if (operand[i] < 256)
-                info.members.ascii[operand[i] >> 6] |= uint64_t(1) << (operand[i] & 63);
+        FillLatin1(info.members.lo, info.members.hi, info.members.ascii);
         m_sets.push_back(std::move(info));
     }
 }
@@ -584,11 +609,11 @@ bool VU_CRegExpression::InSet(const char16_t* node, char16_t c) const {
 
 // Collects into `units` every character a match can begin with at `node`.
 // Returns false when that cannot be bounded (any character, an empty match).
-bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<uint64_t>& units,
+bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char16_t>& units,
                                           std::vector<uint8_t>& visited, int depth) const {
     if (depth > 64)
         return false;
-    auto addUnit = [&units](char16_t c) { units[c >> 6] |= uint64_t(1) << (c & 63); };
+    auto addUnit = [&units](char16_t c) { units.push_back(c); };
     auto addRepeated = [&](const char16_t* item) {
         if (OP(item) == OpLiteral) {
             addUnit(*OPERAND(item));
@@ -655,17 +680,17 @@ void VU_CRegExpression::ComputeStartSet() {
     m_startSet = CharRanges();
     if (m_anchored || m_firstChar || m_programSize > kMaxAnalysedUnits)
         return; // those searches have better hints
-    std::vector<uint64_t> bits(65536 / 64, 0);
+    std::vector<char16_t> units;
     std::vector<uint8_t> visited(m_programSize, 0);
-    if (!CollectStartChars(m_program, bits, visited, 0))
+    if (!CollectStartChars(m_program, units, visited, 0))
         return;
     std::vector<char16_t> lo, hi;
-    RangesFromBits(bits, lo, hi);
-    std::copy(bits.begin(), bits.begin() + 4, m_startSet.ascii);
+    MakeRanges(units.data(), units.size(), lo, hi);
     if (lo.size() > size_t(VU_CRegExpScan::kMaxRanges))
         return;
     m_startSet.lo = std::move(lo);
     m_startSet.hi = std::move(hi);
+    FillLatin1(m_startSet.lo, m_startSet.hi, m_startSet.ascii);
     m_hasStartSet = true;
 }
 

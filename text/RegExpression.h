@@ -152,7 +152,7 @@ private:
     void ComputeHints(int flags);
     void BuildSetInfo();
     void ComputeStartSet();
-    bool CollectStartChars(const char16_t* node, std::vector<uint64_t>& bits,
+    bool CollectStartChars(const char16_t* node, std::vector<char16_t>& units,
                            std::vector<uint8_t>& visiting, int depth) const;
 
     // Search helpers

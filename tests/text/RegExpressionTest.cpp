@@ -222,6 +222,10 @@ TEST(RegExpressionFind, Sets) {
         {u"[^a]", u"a", -1, 0}, // never the terminating NUL
         {u"[\u0100-\u0102]", u"a\u0101", 1, 1},
         {u"[^\u0100-\u0102]+", u"\u0100ab\u0101", 1, 2},
+        {u"[\u0100-\u2fff]+", u"ab\u0100\u2fffc", 2, 2}, // a large set
+        {u"[^\u0001-\u2fff]+", u"ab\u3000\uffffc", 2, 2},
+        {u"x|[\u0100-\u2fff]", u"ab\u2000", 2, 1},
+        {u"(y|[\u00e0-\u00ff])z", u"\u00e0y\u00e9z", 2, 2},
     });
 }
 
