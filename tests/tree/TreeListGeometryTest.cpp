@@ -2,46 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 
 using namespace vu::treelist;
 
 namespace {
-
-TEST(TreeListGeometry, ExpandButtonSpansSeventeenPixelsBothEndsIncluded) {
-    struct Row {
-        int level, gutter, x;
-        bool on;
-    } rows[] = {
-        {0, 0, -1, false},  {0, 0, 0, true},   {0, 0, 16, true},  {0, 0, 17, false},
-        {2, 0, 31, false},  {2, 0, 32, true},  {2, 0, 48, true},  {2, 0, 49, false},
-        {1, 20, 35, false}, {1, 20, 36, true}, {1, 20, 52, true}, {1, 20, 53, false},
-    };
-    for (const Row& r : rows) {
-        SCOPED_TRACE("level " + std::to_string(r.level) + " gutter " + std::to_string(r.gutter) +
-                     " x " + std::to_string(r.x));
-        EXPECT_EQ(r.on, IsOnExpandButton(r.x, r.level, r.gutter));
-    }
-    EXPECT_TRUE(IsOnButtonOrText(500, 3, 10));
-    EXPECT_FALSE(IsOnButtonOrText(57, 3, 10));
-    EXPECT_EQ(3 * 16 + 10 + 7, TreeLineX(3, 10));
-}
-
-TEST(TreeListGeometry, RowsOfAppendedChildren) {
-    // Parent at row 4 with 3 children and 5 shown descendants: after the last shown one.
-    EXPECT_EQ(10, AppendedChildRow(4, 5, 3));
-    // Collapsed parent with 3 children: the row lands `prior` rows below it.
-    EXPECT_EQ(8, AppendedChildRow(4, 0, 3));
-    EXPECT_EQ(3, AppendedChildOffset(0, 3));
-    EXPECT_EQ(0, AppendedChildOffset(2, 3));
-    // First child.
-    EXPECT_EQ(5, AppendedChildRow(4, 0, 0));
-    // Roots: only the preceding root's shown rows count.
-    EXPECT_EQ(0, InsertedRootRow(0, 99));
-    EXPECT_EQ(2, InsertedRootRow(2, 0));
-    EXPECT_EQ(5, InsertedRootRow(2, 3));
-}
 
 TEST(TreeListGeometry, ScrollAdvancesOneRowPerWholePage) {
     struct Row {
@@ -61,14 +26,6 @@ TEST(TreeListGeometry, ScrollAdvancesOneRowPerWholePage) {
         SCOPED_TRACE(r.name);
         EXPECT_EQ(r.expected, ScrollTopForRow(r.top, r.row, r.height, r.client));
     }
-}
-
-TEST(TreeListGeometry, OverflowOfRows) {
-    EXPECT_FALSE(RowsOverflow(0, 16, 160));
-    EXPECT_FALSE(RowsOverflow(10, 16, 160)) << "exactly one page";
-    EXPECT_TRUE(RowsOverflow(11, 16, 160));
-    EXPECT_TRUE(RowsOverflow(10, 16, 159));
-    EXPECT_FALSE(RowsOverflow(10, 0, 160));
 }
 
 // Rows written as a string: 'n' normal, 'h' header, 's' separator.

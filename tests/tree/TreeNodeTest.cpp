@@ -46,20 +46,6 @@ struct SampleTree {
 
 // ---- Construction and flags -------------------------------------------------
 
-TEST(TreeNode, DefaultsOfTheDefaultConstructor) {
-    CTreeNode node;
-    EXPECT_EQ(0, node.IsExpanded());
-    EXPECT_EQ(nullptr, node.GetParent());
-    EXPECT_EQ(-1, node.GetTreeNodeItemHandle());
-    EXPECT_EQ(0, node.GetLevel());
-    EXPECT_EQ(0u, node.GetItemData());
-    EXPECT_TRUE(node.GetDisplayText().IsEmpty());
-    EXPECT_TRUE(node.DrawLines());
-    EXPECT_FALSE(node.IsSeparator()) << "only the text constructors derive the separator flag";
-    EXPECT_FALSE(node.IsHeader());
-    EXPECT_EQ(-1, node.GetImageIndex(0));
-}
-
 TEST(TreeNode, EmptyTextMakesASeparatorAndLaterTextsDoNotChangeIt) {
     CTreeNode separator(CString(u""), 1, 2, 0, 1, nullptr);
     EXPECT_TRUE(separator.IsSeparator());

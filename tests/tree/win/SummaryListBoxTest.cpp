@@ -75,24 +75,5 @@ TEST_F(SummaryTest, SelectedLinesLookTheSame) {
             ASSERT_EQ(picture.At(x, y), picture.At(x, y + kRow)) << x << "," << y;
 }
 
-class CountingSummary : public VU_CSummaryListBox {
-public:
-    int made = 0;
-    CSummaryNode* CreateSummaryNode(const CString& text, bool header) override {
-        ++made;
-        return VU_CSummaryListBox::CreateSummaryNode(text, header);
-    }
-};
-
-TEST(SummaryFactory, AddItemGoesThroughTheFactory) {
-    ParentWindow parent;
-    CountingSummary list;
-    ASSERT_TRUE(
-        list.Create(WS_CHILD | LBS_OWNERDRAWFIXED, CRect(0, 0, 100, 100), parent.Handle(), 1));
-    list.AddItem(CString(u"a"), true);
-    list.AddItem(CString(u"b"), false);
-    EXPECT_EQ(2, list.made);
-}
-
 } // namespace
 } // namespace treetest
