@@ -590,7 +590,7 @@ void VU_CRegExpression::BuildSetInfo() {
         SetInfo info;
         info.node = uint32_t(operand - kNodeUnits - m_program);
         MakeRanges(operand, n, info.members.lo, info.members.hi);
-        FillLatin1(info.members.lo, info.members.hi, info.members.ascii);
+        FillLatin1(info.members.lo, info.members.hi, info.members.latin1);
         m_sets.push_back(std::move(info));
     }
 }
@@ -690,7 +690,7 @@ void VU_CRegExpression::ComputeStartSet() {
         return;
     m_startSet.lo = std::move(lo);
     m_startSet.hi = std::move(hi);
-    FillLatin1(m_startSet.lo, m_startSet.hi, m_startSet.ascii);
+    FillLatin1(m_startSet.lo, m_startSet.hi, m_startSet.latin1);
     m_hasStartSet = true;
 }
 

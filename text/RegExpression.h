@@ -106,12 +106,12 @@ public:
     }
 
 private:
-    // A character class as sorted, merged ranges, with an ASCII bitmap.
+    // A character class as sorted, merged ranges, with a Latin-1 bitmap.
     struct CharRanges {
         std::vector<char16_t> lo, hi; // inclusive
-        uint64_t ascii[4] = {0, 0, 0, 0};
+        uint64_t latin1[4] = {0, 0, 0, 0};
         bool Contains(char16_t c) const {
-            return c < 256 ? ((ascii[c >> 6] >> (c & 63)) & 1) != 0 : ContainsAbove255(c);
+            return c < 256 ? ((latin1[c >> 6] >> (c & 63)) & 1) != 0 : ContainsAbove255(c);
         }
         bool ContainsAbove255(char16_t c) const;
     };
