@@ -586,8 +586,9 @@ void VU_CTreeListBox::Collapse(int row) {
         DeleteRow(r);
     }
     node->SetExpandFlag(0);
-    // The selection was among the removed rows: it moves to the collapsed node.
-    if (selection > row && selection <= row + shown)
+    // A selection strictly inside the removed rows moves to the collapsed
+    // node; one on the last removed row goes with that row, as it always has.
+    if (selection > row && selection < row + shown)
         SetSelectedRow(row);
     EndUpdate();
 }

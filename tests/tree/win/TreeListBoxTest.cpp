@@ -131,7 +131,7 @@ TEST_F(TreeListTest, ExpandAndCollapseIgnoreRowsTheyCannotChange) {
     EXPECT_EQ((RowList{u"A", u"B", u"B1", u"C"}), Rows());
 }
 
-TEST_F(TreeListTest, CollapseMovesASelectionInsideTheBranchToTheNode) {
+TEST_F(TreeListTest, CollapseMovesASelectionStrictlyInsideTheBranchToTheNode) {
     BuildSample();
     list->Expand(0);
     list->Expand(1); // A, A1, A1a, A1b, A2, B, C
@@ -140,7 +140,7 @@ TEST_F(TreeListTest, CollapseMovesASelectionInsideTheBranchToTheNode) {
         int selected;
         int expected;
     } cases[] = {{"inside", 3, 0},
-                 {"last removed row", 4, 0},
+                 {"last removed row: deleted with its row", 4, -1},
                  {"the node itself", 0, 0},
                  {"below the branch", 6, 2}};
     for (const Case& c : cases) {
