@@ -209,35 +209,53 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
                     return q;
             }
         }
-        // Later regions: find the other unit and look back for the first one
-        // (the previous region has been read, so the loads stay in readable
-        // memory); the NUL test shares the branch.
+        // Later regions: look for the literal's rarest unit (or the NUL)
+        // alone, and only in a region holding one test it together with a
+        // second unit at most 7 units away. Loads that reach into the next
+        // region happen only once this region is known to hold no NUL; loads
+        // that reach back stay in regions already read.
+        size_t rare = 0;
+        for (size_t i = 1; i < length; ++i)
+            if (Commonness(literal[i]) < Commonness(literal[rare]))
+                rare = i;
+        size_t partner = rare == 0 ? 1 : rare - 1;
+        for (size_t i = rare > 7 ? rare - 7 : 0; i < length && i <= rare + 7; ++i)
+            if (i != rare && Commonness(literal[i]) < Commonness(literal[partner]))
+                partner = i;
+        const ptrdiff_t shift = ptrdiff_t(partner) - ptrdiff_t(rare);
+        const __m128i rareUnit = _mm_set1_epi16(short(literal[rare]));
+        const __m128i partnerUnit = _mm_set1_epi16(short(literal[partner]));
         for (region += 64;; region += 64) {
             const __m128i* p = reinterpret_cast<const __m128i*>(region);
             const char16_t* units = reinterpret_cast<const char16_t*>(region);
-            const __m128i* w = reinterpret_cast<const __m128i*>(units - second);
             const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
             const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
+            const __m128i r0 = _mm_cmpeq_epi16(a0, rareUnit), r1 = _mm_cmpeq_epi16(a1, rareUnit);
+            const __m128i r2 = _mm_cmpeq_epi16(a2, rareUnit), r3 = _mm_cmpeq_epi16(a3, rareUnit);
             const __m128i z0 = _mm_cmpeq_epi16(a0, zero), z1 = _mm_cmpeq_epi16(a1, zero);
             const __m128i z2 = _mm_cmpeq_epi16(a2, zero), z3 = _mm_cmpeq_epi16(a3, zero);
-            const __m128i h0 = _mm_and_si128(_mm_cmpeq_epi16(a0, other),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w), first));
-            const __m128i h1 = _mm_and_si128(_mm_cmpeq_epi16(a1, other),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 1), first));
-            const __m128i h2 = _mm_and_si128(_mm_cmpeq_epi16(a2, other),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 2), first));
-            const __m128i h3 = _mm_and_si128(_mm_cmpeq_epi16(a3, other),
-                                             _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), first));
-            if (!Any(_mm_or_si128(h0, z0), _mm_or_si128(h1, z1), _mm_or_si128(h2, z2),
-                     _mm_or_si128(h3, z3)))
+            if (!Any(_mm_or_si128(r0, z0), _mm_or_si128(r1, z1), _mm_or_si128(r2, z2),
+                     _mm_or_si128(r3, z3)))
                 continue;
             const uint64_t nul = Mask64(z0, z1, z2, z3);
-            uint64_t m = Mask64(h0, h1, h2, h3);
-            if (nul)
-                m &= (uint64_t(1) << __builtin_ctzll(nul)) - 1; // other unit before the NUL
+            uint64_t m;
+            if (nul) {
+                // Only a rare unit before the NUL can belong to a match.
+                m = Mask64(r0, r1, r2, r3) & ((uint64_t(1) << __builtin_ctzll(nul)) - 1);
+            } else {
+                const __m128i* w = reinterpret_cast<const __m128i*>(units + shift);
+                m = Mask64(_mm_and_si128(r0, _mm_cmpeq_epi16(_mm_loadu_si128(w), partnerUnit)),
+                           _mm_and_si128(r1, _mm_cmpeq_epi16(_mm_loadu_si128(w + 1), partnerUnit)),
+                           _mm_and_si128(r2, _mm_cmpeq_epi16(_mm_loadu_si128(w + 2), partnerUnit)),
+                           _mm_and_si128(r3, _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), partnerUnit)));
+            }
             for (; m; m &= m - 1, m &= m - 1) {
-                const char16_t* q = units + __builtin_ctzll(m) / 2 - second;
-                if (q >= s && MatchesAt(q, literal, length))
+                // Candidates come in the order of their start.
+                const char16_t* at = units + __builtin_ctzll(m) / 2;
+                if (size_t(at - s) < rare)
+                    continue; // the literal would start before s
+                const char16_t* q = at - rare;
+                if (MatchesAt(q, literal, length))
                     return q;
             }
             if (nul)

@@ -105,6 +105,32 @@ TEST(RegExpressionScan, LiteralOccurrencesNearTheEnd) {
     }
 }
 
+TEST(RegExpressionScan, LongLiteralsWithTheRareUnitLate) {
+    // The scan keys on the rarest unit, which may lie far from the start.
+    std::mt19937 random(7);
+    const std::u16string literal = u"etaetaetaetaetaetaQ";
+    std::u16string nearMiss = literal;
+    nearMiss.front() = u'x';
+    for (size_t offset = 0; offset < 16; ++offset) {
+        for (size_t at = 0; at < 300; at += 7) {
+            SCOPED_TRACE("offset " + std::to_string(offset) + " at " + std::to_string(at));
+            std::u16string t(at + 100, u'e');
+            for (char16_t& c : t)
+                c = u"eta Q"[random() % 5];
+            if (at >= nearMiss.size())
+                t.replace(at - nearMiss.size(), nearMiss.size(), nearMiss);
+            t.replace(at, literal.size(), literal);
+            Subject subject(offset, t, u'Q');
+            EXPECT_EQ(VU_CRegExpScan::FindLiteral(subject.s, literal.data(), literal.size()),
+                      NaiveFindLiteral(subject.s, literal));
+            // Cut just before the literal ends: it must not be found there.
+            Subject cut(offset, t.substr(0, at + literal.size() - 1), u'Q');
+            EXPECT_EQ(VU_CRegExpScan::FindLiteral(cut.s, literal.data(), literal.size()),
+                      NaiveFindLiteral(cut.s, literal));
+        }
+    }
+}
+
 TEST(RegExpressionScan, RunsOfAllRepetitions) {
     const std::u16string run(1000, u'q');
     Subject subject(5, run, u'q');
