@@ -24,7 +24,11 @@ target_link_libraries(vulib PRIVATE -Wl,--whole-archive ${VULIB_CORE_LIBS} -Wl,-
 # libgcc_eh is linked statically into every module: exporting its unwinder
 # from the DLL would clash with the executables' own copy.
 target_link_options(vulib PRIVATE -static -Wl,--export-all-symbols -Wl,--exclude-libs,libgcc_eh.a)
-set_property(TARGET vulib APPEND PROPERTY LINK_DEPENDS ${VULIB_RC})
+# windres does not report what the script includes: rebuild the resources
+# when a header or a generated image changes.
+file(GLOB_RECURSE VULIB_RC_INPUTS CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/*.h
+     ${CMAKE_SOURCE_DIR}/resources/*.bmp ${CMAKE_SOURCE_DIR}/resources/*.cur)
+set_source_files_properties(${VULIB_RC} PROPERTIES OBJECT_DEPENDS "${VULIB_RC_INPUTS}")
 
 # Test and demo executables carry their runtime with them so Wine finds no
 # missing DLL.
