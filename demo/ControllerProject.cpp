@@ -101,7 +101,7 @@ ProjectCounts FillControllerProject(VU_CTreeListBox& list) {
     // only while every node added so far has a row.
     list.AddHeader(CString(u"Controller Line3_Packer"));
     const int controller =
-        b.Add(u"Line3_Packer\t1756-L83E\tControlLogix 5580, revision 33.011",
+        b.Add(u"Line3_Packer\tVX-L83E\tVX 8 series, revision 33.011",
               VU_TREEIMAGE_CONTROLLER, VU_TREEIMAGE_CONTROLLER, kKindController, -1);
     list.AddSeparator();
     list.AddHeader(CString(u"Tasks"));
@@ -127,7 +127,7 @@ ProjectCounts FillControllerProject(VU_CTreeListBox& list) {
     const int predefined = b.Folder(u"Predefined", -1);
     list.AddSeparator();
     list.AddHeader(CString(u"I/O Configuration"));
-    const int backplane = b.Folder(u"1756 Backplane, 1756-A10", -1);
+    const int backplane = b.Folder(u"VX Backplane, VX-A10", -1);
 
     // The controller's own folders and tags.
     const int controllerTags = b.Folder(u"Controller Tags", controller);
@@ -233,13 +233,13 @@ ProjectCounts FillControllerProject(VU_CTreeListBox& list) {
 
     // The I/O tree.
     const TagSpec modules[] = {
-        {u"[0] Line3_Packer", u"1756-L83E", u"Controller"},
-        {u"[1] ENET_1", u"1756-EN2T", u"EtherNet/IP to the drives"},
-        {u"[2] DI_Slot2", u"1756-IB16", u"16 digital inputs, 24 V DC"},
-        {u"[3] DO_Slot3", u"1756-OB16E", u"16 digital outputs, electronically fused"},
-        {u"[4] AI_Slot4", u"1756-IF8", u"8 analog inputs"},
-        {u"[5] AO_Slot5", u"1756-OF4", u"4 analog outputs"},
-        {u"[6] Spare", u"1756-IB16", u"Spare input module, inhibited"},
+        {u"[0] Line3_Packer", u"VX-L83E", u"Controller"},
+        {u"[1] ENET_1", u"VX-EN2T", u"EtherNet/IP to the drives"},
+        {u"[2] DI_Slot2", u"VX-IB16", u"16 digital inputs, 24 V DC"},
+        {u"[3] DO_Slot3", u"VX-OB16E", u"16 digital outputs, electronically fused"},
+        {u"[4] AI_Slot4", u"VX-IF8", u"8 analog inputs"},
+        {u"[5] AO_Slot5", u"VX-OF4", u"4 analog outputs"},
+        {u"[6] Spare", u"VX-IB16", u"Spare input module, inhibited"},
     };
     for (const TagSpec& module : modules) {
         const bool inhibited = std::u16string(module.name) == u"[6] Spare";

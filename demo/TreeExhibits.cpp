@@ -48,7 +48,7 @@ void FillSummary(VU_CSummaryListBox& summary, const ProjectCounts& counts) {
     const auto line = [&](const std::u16string& text) { summary.AddItem(Text(text), false); };
     summary.AddItem(Text(u"Controller"), true);
     line(u"Name: Line3_Packer");
-    line(u"Type: 1756-L83E ControlLogix 5580 Controller");
+    line(u"Type: VX-L83E VX 8 series Controller");
     line(u"Revision: 33.011");
     summary.AddItem(Text(u"Logic"), true);
     line(u"Tasks: " + Number(counts.tasks) + u" (1 continuous, 1 periodic, 1 event)");
@@ -94,7 +94,7 @@ void ProjectOrganizer(Context& c) {
 
     // The controller: a click on its expand button.
     const int controllerRow =
-        RowOfText(tree, u"Line3_Packer\t1756-L83E\tControlLogix 5580, revision 33.011");
+        RowOfText(tree, u"Line3_Packer\tVX-L83E\tVX 8 series, revision 33.011");
     c.Click(tree.m_hWnd, 8, controllerRow * kRowHeight + kRowHeight / 2);
     c.Check(tree.GetRowCount() > 0 && tree.GetNode(controllerRow)->IsExpanded(),
             "a click on the button expands the controller");
@@ -123,7 +123,7 @@ void ProjectOrganizer(Context& c) {
     c.Check(tree.GetCurSelDisplayText() == CString(u"Motor\tUDT_Motor\tMain drive"),
             "down walks to the drive tag");
     // The module list, where the spare module is inhibited (greyed).
-    tree.Expand(RowOfText(tree, u"1756 Backplane, 1756-A10"));
+    tree.Expand(RowOfText(tree, u"VX Backplane, VX-A10"));
     c.Pump();
 
     const std::u16string xml = tree.XmlGetString();
