@@ -199,12 +199,14 @@ char16_t* VU_CRegExpression::reg(bool paren, int& flags) {
     if (!(branchFlags & HasWidth))
         flags &= ~HasWidth;
     flags |= branchFlags & StartsWithRepeat;
+    char16_t* last = branch; // the chain's last alternative, linked in O(1)
     while (*m_parse == u'|') {
         ++m_parse;
         branch = regbranch(branchFlags);
         if (!branch)
             return nullptr;
-        regtail(ret, branch);
+        regtail(last, branch);
+        last = branch;
         if (!(branchFlags & HasWidth))
             flags &= ~HasWidth;
         flags |= branchFlags & StartsWithRepeat;

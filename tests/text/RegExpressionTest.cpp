@@ -455,6 +455,22 @@ TEST(RegExpressionProgram, LinksBeyondSixteenBits) {
     EXPECT_EQ(re.RegFind(u"qqqz"), 3);
 }
 
+TEST(RegExpressionProgram, ManyAlternativesCompileInLinearTime) {
+    std::u16string pattern;
+    for (int i = 0; i < 200000; ++i)
+        pattern += u"ab|";
+    pattern += u"xyz";
+    VU_CRegExpression re;
+    ASSERT_NE(re.RegComp(pattern.c_str()), nullptr); // seconds if quadratic
+    EXPECT_EQ(re.RegFind(u"--xyz"), 2);
+    EXPECT_EQ(re.RegFind(u"-ab"), 1);
+    // The last alternative links to the end node.
+    const char16_t* p = re.GetProgram();
+    const unsigned last = re.GetProgramSize() - 3 - 7; // "xyz" node: 3 + 4 units
+    EXPECT_EQ(p[last - 3], VU_CRegExpression::OpAlternative);
+    EXPECT_EQ(VU_CRegExpression::ReadLink(p + last - 3), 10u);
+}
+
 TEST(RegExpressionProgram, SearchHints) {
     struct Row {
         const char16_t* pattern;
