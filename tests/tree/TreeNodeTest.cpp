@@ -20,10 +20,6 @@ CTreeNode* AddChild(CTreeNode* parent, const char16_t* text, int handle, unsigne
     return node;
 }
 
-std::string Narrow(const std::u16string& s) {
-    return std::string(s.begin(), s.end());
-}
-
 // root(1)
 //   a(2)
 //     a1(3)
@@ -56,25 +52,6 @@ TEST(TreeNode, EmptyTextMakesASeparatorAndLaterTextsDoNotChangeIt) {
     EXPECT_FALSE(item.IsSeparator());
     item.SetDisplayText(CString(u""));
     EXPECT_FALSE(item.IsSeparator());
-}
-
-TEST(TreeNode, ConstructorStoresItsArguments) {
-    CTreeNode parent;
-    VU_CImageIndexArray images;
-    images.Add(4);
-    images.Add(5);
-    images.Add(6);
-    CTreeNode node(CString(u"Motor"), images, 42, 9, &parent);
-    images.SetAt(0, 99); // the node holds a copy
-    EXPECT_EQ(4, node.GetImageIndex(0));
-    EXPECT_EQ(5, node.GetSelectedImageIndex(0));
-    EXPECT_EQ(6, node.GetImageIndex(1));
-    EXPECT_EQ(42u, node.GetItemData());
-    EXPECT_EQ(9, node.GetTreeNodeItemHandle());
-    EXPECT_EQ(&parent, node.GetParent());
-    EXPECT_EQ(0, node.GetLevel());
-    EXPECT_TRUE(node.DrawLines());
-    EXPECT_FALSE(node.IsHeader());
 }
 
 TEST(TreeNode, LeafIsNeverExpanded) {
@@ -113,7 +90,6 @@ TEST(TreeNode, ImageLookups) {
         {"one pair, state 1", &pair, 1, -1, -1},
         {"one pair, negative state", &pair, -1, -1, -1},
         {"two pairs, state 1", &two, 1, 20, 21},
-        {"two pairs, state 2", &two, 2, -1, -1},
         {"huge state", &two, 0x40000000, -1, -1},
     };
     for (const Row& row : rows) {
@@ -123,24 +99,24 @@ TEST(TreeNode, ImageLookups) {
         EXPECT_EQ(row.normal, node.GetImageIndex(row.state));
         EXPECT_EQ(row.selected, node.GetSelectedImageIndex(row.state));
     }
+    CTreeNode copy(CString(u"n"), pair, 0, 1, nullptr);
+    pair.SetAt(0, 99);
+    EXPECT_EQ(3, copy.GetImageIndex(0)) << "the node holds a copy";
 }
 
 TEST(ImageIndexArray, CopyAndAssignmentCopyElementByElement) {
     VU_CImageIndexArray source = VU_CImageIndexArray::Pair(1, 2);
     VU_CImageIndexArray copy(source);
-    ASSERT_EQ(2, copy.GetSize());
+    EXPECT_EQ(2, copy.GetSize());
     EXPECT_EQ(2, copy.GetAt(1));
-
     VU_CImageIndexArray target;
     for (int i = 0; i < 5; ++i)
         target.Add(9);
     target = source; // the target is emptied first, then sized to the source
-    ASSERT_EQ(2, target.GetSize());
-    EXPECT_EQ(1, target.GetAt(0));
-
     VU_CImageIndexArray& self = target;
     target = self;
     ASSERT_EQ(2, target.GetSize());
+    EXPECT_EQ(1, target.GetAt(0));
     EXPECT_EQ(2, target.GetAt(1));
 }
 
@@ -169,7 +145,6 @@ TEST(TreeNode, FindNodeAndItemDataSearchInPreOrder) {
     EXPECT_EQ(&t.root, t.root.FindNode(1));
     EXPECT_EQ(t.b1, t.root.FindNode(6));
     EXPECT_EQ(nullptr, t.root.FindNode(8));
-    EXPECT_EQ(nullptr, t.root.FindNode(-1));
     EXPECT_EQ(t.b1, t.root.FindNodeFromItemData(600));
     EXPECT_EQ(nullptr, t.root.FindNodeFromItemData(1));
 
@@ -186,8 +161,6 @@ TEST(TreeNode, LastNodeOfParent) {
     SampleTree t;
     EXPECT_TRUE(t.root.IsLastNodeOfParent()) << "no parent";
     EXPECT_TRUE(t.root.IsParentLastNodeOfParent());
-    EXPECT_FALSE(t.a->IsLastNodeOfParent());
-    EXPECT_TRUE(t.c->IsLastNodeOfParent());
     EXPECT_FALSE(t.a1->IsLastNodeOfParent());
     EXPECT_TRUE(t.a2->IsLastNodeOfParent());
     EXPECT_FALSE(t.a2->IsParentLastNodeOfParent()) << "a is not root's last child";
@@ -204,12 +177,11 @@ TEST(TreeNode, GetChildOutOfRangeThrows) {
 
 TEST(TreeNode, FindNoCaseChildString) {
     CTreeNode root(CString(u"Drives"), 0, 0, 0, 1, nullptr);
-    CTreeNode* motor = AddChild(&root, u"Motor\tstopped", 2);
+    AddChild(&root, u"Motor\tstopped", 2);
     CTreeNode* motors = AddChild(&root, u"Motors", 3);
-    AddChild(motors, u"Motor", 4); // under the node that ends its subtree's search
+    AddChild(motors, u"Motor", 4);
     CTreeNode* group = AddChild(&root, u"Pumps", 5);
     AddChild(group, u"PUMP_1\tBOOL", 6);
-    (void)motor;
 
     struct Row {
         const char* name;
@@ -222,8 +194,6 @@ TEST(TreeNode, FindNoCaseChildString) {
     } rows[] = {
         {"prefix, case-blind", &root, u"motor", false, 5, 0, 2},
         {"exact before tab", &root, u"motor", false, 5, 1, 2},
-        {"exact name differs: subtree ends", motors, u"motor", true, 5, 1, -1},
-        {"a leaf child is found when its parent is no candidate", motors, u"motor", false, 5, 1, 4},
         {"a parent is no candidate without matchParents", &root, u"MOTORS", false, 6, 1, -1},
         {"exact parent with matchParents", &root, u"MOTORS", true, 6, 1, 3},
         {"parents skipped without matchParents", &root, u"Pumps", false, 5, 0, -1},
@@ -288,17 +258,12 @@ TEST(TreeNodeVisitor, CompletionStopsTheWalk) {
     RecordingVisitor once;
     empty.Accept(&once);
     EXPECT_EQ(1u, once.arrays.size());
-
-    RecordingVisitor first;
-    first.stopAfter = 1;
-    t.root.Accept(&first);
-    EXPECT_EQ(1u, first.arrays.size()) << "complete in the first call: no children seen";
-
-    RecordingVisitor third;
-    third.stopAfter = 3;
-    t.root.Accept(&third);
-    EXPECT_EQ(3u, third.arrays.size());
-
+    for (size_t stopAfter : {1, 3}) { // 1: complete in the first call, no children seen
+        RecordingVisitor v;
+        v.stopAfter = stopAfter;
+        t.root.Accept(&v);
+        EXPECT_EQ(stopAfter, v.arrays.size());
+    }
     RecordingVisitor done;
     done.SetVisitComplete(true);
     t.root.Accept(&done);
@@ -344,27 +309,6 @@ TEST(TreeNode, DeepChainIsWalkedAndDestroyedWithoutRecursion) {
 
 // ---- XML --------------------------------------------------------------------------
 
-std::string Row(long id, bool expanded, bool selected, const char* text, const char* parent) {
-    return "<HbxListNode><id>" + std::to_string(id) + "</id><expanded>" +
-           (expanded ? "true" : "false") + "</expanded><selected>" + (selected ? "true" : "false") +
-           "</selected><text>" + text + "</text><parent>" + parent + "</parent></HbxListNode>";
-}
-
-TEST(TreeNodeXml, WritesOneElementPerShownRowWithTheSharedCounter) {
-    SampleTree t;
-    t.root.Expand(1);
-    t.a->Expand(1);
-    t.b1->Expand(1); // a leaf stays collapsed
-    CTreeNode::ResetXmlRowCounter(2);
-    const std::string xml = Narrow(t.root.XmlGetString());
-    const std::string expected =
-        Row(0, true, false, "root", "") + Row(1, true, false, "a", "root") +
-        Row(2, false, true, "a1", "a") + Row(3, false, false, "a2", "a") +
-        Row(4, false, false, "b", "root") + Row(5, false, false, "c", "root");
-    EXPECT_EQ(expected, xml);
-    EXPECT_EQ(6, CTreeNode::GetXmlRowCounter());
-}
-
 TEST(TreeNodeXml, ArrayConcatenatesRootsAndTheCounterRunsOn) {
     SampleTree t;
     CTreeNode other(CString(u"x<&>\"'y"), 0, 0, 0, 9, nullptr);
@@ -383,6 +327,7 @@ TEST(TreeNodeXml, ArrayConcatenatesRootsAndTheCounterRunsOn) {
         u"<HbxListNode><id>2</id><expanded>false</expanded><selected>false</selected>"
         u"<text>\u00e9t\u00e9</text><parent>x&lt;&amp;&gt;&quot;&apos;y</parent></HbxListNode>";
     EXPECT_EQ(expected, xml);
+    EXPECT_EQ(3, CTreeNode::GetXmlRowCounter());
     roots.RemoveAll(); // the array does not own its entries
 }
 

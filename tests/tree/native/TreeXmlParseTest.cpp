@@ -13,31 +13,25 @@
 
 namespace {
 
-std::string ToUtf8(const std::u16string& s) {
-    std::string out;
-    for (size_t i = 0; i < s.size(); ++i) {
-        char32_t c = s[i];
-        if (c >= 0xD800 && c < 0xDC00 && i + 1 < s.size()) {
-            c = 0x10000 + ((c - 0xD800) << 10) + (s[i + 1] - 0xDC00);
-            ++i;
-        }
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
-    }
-    return out;
+// Each word with its UTF-8 form, to compare with what libxml2 reads back.
+struct Word {
+    const char16_t* utf16;
+    const char8_t* utf8;
+};
+const Word kWords[] = {{u"Motor", u8"Motor"},
+                       {u"a<b", u8"a<b"},
+                       {u"R&D", u8"R&D"},
+                       {u"\"quoted\"", u8"\"quoted\""},
+                       {u"it's", u8"it's"},
+                       {u"x>y", u8"x>y"},
+                       {u"Stra\u00dfe", u8"Stra\u00dfe"},
+                       {u"\u65e5\u672c", u8"\u65e5\u672c"},
+                       {u"tab\tcolumn", u8"tab\tcolumn"},
+                       {u"", u8""},
+                       {u"\U0001F600", u8"\U0001F600"}};
+
+std::string Utf8Of(const CTreeNode* node) {
+    return node ? reinterpret_cast<const char*>(kWords[node->GetItemData()].utf8) : "";
 }
 
 // What the list box returns: the roots' rows inside "HbxTreeList".
@@ -64,27 +58,15 @@ std::string ChildText(xmlNode* element, const char* name) {
     return "<missing " + std::string(name) + ">";
 }
 
-struct Expected {
-    std::u16string text, parent;
-    bool expanded;
-};
-
 // Shown rows in pre-order, as the list box would show them.
-void CollectShown(CTreeNode* node, std::vector<Expected>& rows) {
-    rows.push_back({std::u16string(node->GetDisplayText().GetString()),
-                    node->GetParent()
-                        ? std::u16string(node->GetParent()->GetDisplayText().GetString())
-                        : std::u16string(),
-                    node->IsExpanded() != 0});
+void CollectShown(CTreeNode* node, std::vector<CTreeNode*>& rows) {
+    rows.push_back(node);
     if (node->IsExpanded())
         for (int i = 0; i < node->GetNumberOfChildren(); ++i)
             CollectShown(node->GetChild(i), rows);
 }
 
 TEST(TreeXmlParse, RandomTreesDumpWellFormedRowsInShownOrder) {
-    const char16_t* words[] = {u"Motor",       u"a<b", u"R&D",         u"\"quoted\"",
-                               u"it's",        u"x>y", u"Stra\u00dfe", u"\u65e5\u672c",
-                               u"tab\tcolumn", u"",    u"\U0001F600"};
     std::mt19937 rng(1234);
     for (int round = 0; round < 20; ++round) {
         SCOPED_TRACE("round " + std::to_string(round));
@@ -93,9 +75,9 @@ TEST(TreeXmlParse, RandomTreesDumpWellFormedRowsInShownOrder) {
         int handle = 1;
         const int nodes = 1 + static_cast<int>(rng() % 60);
         for (int i = 0; i < nodes; ++i) {
-            const char16_t* w = words[rng() % std::size(words)];
+            const unsigned long w = rng() % std::size(kWords);
             CTreeNode* parent = all.empty() || rng() % 4 == 0 ? nullptr : all[rng() % all.size()];
-            auto* node = new CTreeNode(CString(w), 0, 0, 0, handle++, parent);
+            auto* node = new CTreeNode(CString(kWords[w].utf16), 0, 0, w, handle++, parent);
             if (parent) {
                 node->SetLevel(parent->GetLevel() + 1);
                 parent->Add(node);
@@ -106,15 +88,16 @@ TEST(TreeXmlParse, RandomTreesDumpWellFormedRowsInShownOrder) {
         }
         for (CTreeNode* n : all)
             n->Expand(rng() % 2);
-        std::vector<Expected> shown;
+        std::vector<CTreeNode*> shown;
         for (CTreeNode* r : roots)
             CollectShown(r, shown);
         const long selected = static_cast<long>(rng() % (shown.size() + 1)) - 1;
 
-        const std::string utf8 = ToUtf8(Dump(roots, selected));
-        xmlDoc* doc = xmlReadMemory(utf8.data(), static_cast<int>(utf8.size()), "dump.xml", "UTF-8",
+        const std::u16string dump = Dump(roots, selected);
+        xmlDoc* doc = xmlReadMemory(reinterpret_cast<const char*>(dump.data()),
+                                    static_cast<int>(dump.size() * 2), "dump.xml", "UTF-16LE",
                                     XML_PARSE_NONET);
-        ASSERT_NE(nullptr, doc) << utf8;
+        ASSERT_NE(nullptr, doc) << std::string(dump.begin(), dump.end());
         xmlNode* top = xmlDocGetRootElement(doc);
         EXPECT_STREQ("HbxTreeList", reinterpret_cast<const char*>(top->name));
         size_t row = 0;
@@ -124,11 +107,11 @@ TEST(TreeXmlParse, RandomTreesDumpWellFormedRowsInShownOrder) {
             ASSERT_LT(row, shown.size());
             EXPECT_STREQ("HbxListNode", reinterpret_cast<const char*>(e->name));
             EXPECT_EQ(std::to_string(row), ChildText(e, "id"));
-            EXPECT_EQ(shown[row].expanded ? "true" : "false", ChildText(e, "expanded"));
+            EXPECT_EQ(shown[row]->IsExpanded() ? "true" : "false", ChildText(e, "expanded"));
             EXPECT_EQ(static_cast<long>(row) == selected ? "true" : "false",
                       ChildText(e, "selected"));
-            EXPECT_EQ(ToUtf8(shown[row].text), ChildText(e, "text"));
-            EXPECT_EQ(ToUtf8(shown[row].parent), ChildText(e, "parent"));
+            EXPECT_EQ(Utf8Of(shown[row]), ChildText(e, "text"));
+            EXPECT_EQ(Utf8Of(shown[row]->GetParent()), ChildText(e, "parent"));
             ++row;
         }
         EXPECT_EQ(shown.size(), row);
