@@ -1,6 +1,7 @@
 #include "Gallery.h"
 
 #include "PngWriter.h"
+#include "foundation/Utf8.h"
 
 #include <shellapi.h>
 
@@ -29,34 +30,6 @@ void RegisterFrameClass() {
     wc.lpszClassName = kFrameClass;
     RegisterClassW(&wc);
     registered = true;
-}
-
-std::string ToUtf8(const std::u16string& s) {
-    std::string out;
-    out.reserve(s.size());
-    for (size_t i = 0; i < s.size(); ++i) {
-        char32_t c = s[i];
-        if (c >= 0xD800 && c < 0xDC00 && i + 1 < s.size()) {
-            c = 0x10000 + ((c - 0xD800) << 10) + (s[i + 1] - 0xDC00);
-            ++i;
-        }
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
-    }
-    return out;
 }
 
 } // namespace
@@ -164,7 +137,7 @@ bool Context::SaveText(const std::wstring& name, const std::u16string& text) {
         Check(false, "opening a text file");
         return false;
     }
-    const std::string utf8 = ToUtf8(text);
+    const std::string utf8 = vu::Utf16ToUtf8(text);
     const bool ok = fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size();
     fclose(file);
     Check(ok, "writing a text file");

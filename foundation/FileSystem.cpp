@@ -8,7 +8,9 @@
 #include <stdlib.h>
 #include <vector>
 #else
+#include "foundation/Utf8.h"
 #include "framework/CaseMap.h"
+#include <algorithm>
 
 #include <cerrno>
 #include <dirent.h>
@@ -86,94 +88,21 @@ bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
 
 namespace {
 
-constexpr char16_t kReplacement = 0xFFFD;
-
 bool IsUncStart(std::u16string_view path) {
     return path.size() >= 2 && path[0] == u'\\' && path[1] == u'\\';
 }
 
-void AppendUtf8(std::string& out, char32_t c) {
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (c >> 18));
-        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
-
-bool IsHighSurrogate(char16_t c) {
-    return c >= 0xD800 && c <= 0xDBFF;
-}
-bool IsLowSurrogate(char16_t c) {
-    return c >= 0xDC00 && c <= 0xDFFF;
-}
-
-// UTF-16 to the UTF-8 name POSIX takes, with '\' read as '/'. The text
-// ends at the first 0 unit, as a C string would; an unpaired surrogate
-// becomes U+FFFD.
+// UTF-16 to the UTF-8 name POSIX takes, with '\' read as '/'. The text ends
+// at the first 0 unit, as a C string would.
 std::string ToNative(std::u16string_view path) {
-    std::string out;
-    out.reserve(path.size());
-    for (std::size_t i = 0; i < path.size() && path[i] != 0; ++i) {
-        char16_t c = path[i];
-        if (c == u'\\') {
-            out += '/';
-        } else if (IsHighSurrogate(c) && i + 1 < path.size() && IsLowSurrogate(path[i + 1])) {
-            AppendUtf8(out, 0x10000 + ((char32_t(c) - 0xD800) << 10) + (path[i + 1] - 0xDC00));
-            ++i;
-        } else {
-            AppendUtf8(out, IsHighSurrogate(c) || IsLowSurrogate(c) ? kReplacement : c);
-        }
-    }
+    std::string out = vu::Utf16ToUtf8(path.substr(0, path.find(u'\0')));
+    std::replace(out.begin(), out.end(), '\\', '/');
     return out;
 }
 
-// UTF-8 from the file system to UTF-16; a malformed byte becomes U+FFFD.
+// UTF-8 from the file system to UTF-16.
 std::u16string FromNative(std::string_view s) {
-    std::u16string out;
-    out.reserve(s.size());
-    for (std::size_t i = 0; i < s.size();) {
-        const auto b = static_cast<unsigned char>(s[i]);
-        int extra = b < 0x80             ? 0
-                    : (b & 0xE0) == 0xC0 ? 1
-                    : (b & 0xF0) == 0xE0 ? 2
-                    : (b & 0xF8) == 0xF0 ? 3
-                                         : -1;
-        char32_t c = extra == 0   ? b
-                     : extra == 1 ? (b & 0x1F)
-                     : extra == 2 ? (b & 0x0F)
-                                  : (b & 0x07);
-        bool ok = extra >= 0 && i + extra < s.size();
-        for (int k = 1; ok && k <= extra; ++k) {
-            const auto t = static_cast<unsigned char>(s[i + k]);
-            ok = (t & 0xC0) == 0x80;
-            c = (c << 6) | (t & 0x3F);
-        }
-        static constexpr char32_t kMinimum[] = {0, 0x80, 0x800, 0x10000};
-        ok = ok && c >= kMinimum[extra] && c <= 0x10FFFF && !(c >= 0xD800 && c <= 0xDFFF);
-        if (!ok) {
-            out += kReplacement;
-            ++i;
-            continue;
-        }
-        if (c >= 0x10000) {
-            out += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
-            out += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
-        } else {
-            out += static_cast<char16_t>(c);
-        }
-        i += extra + 1;
-    }
-    return out;
+    return vu::Utf8ToUtf16(s);
 }
 
 bool HasDrivePrefix(std::u16string_view path) {

@@ -1,0 +1,18 @@
+#pragma once
+// Conversions between the library's UTF-16 text and UTF-8, for the places
+// where text leaves the library as bytes: POSIX file names, files written by
+// the gallery, XML handed to byte-oriented parsers.
+
+#include <string>
+#include <string_view>
+
+namespace vu {
+
+// UTF-16 to UTF-8; an unpaired surrogate becomes U+FFFD.
+std::string Utf16ToUtf8(std::u16string_view text);
+
+// UTF-8 to UTF-16; each malformed, overlong or surrogate-encoding byte
+// sequence becomes one U+FFFD and decoding resumes at the next byte.
+std::u16string Utf8ToUtf16(std::string_view bytes);
+
+} // namespace vu
