@@ -1,6 +1,6 @@
 // The summary list box on a real window: its rows, texts, scroll bar test
 // and what it draws.
-#include "TreeTestHost.h"
+#include "TreeFixture.h"
 
 #include "tree/win/SummaryListBox.h"
 
@@ -9,22 +9,11 @@
 namespace treetest {
 namespace {
 
-constexpr int kRow = 16;
+constexpr int kRow = kRowHeight;
 
 class SummaryTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED |
-                                    LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
-                                CRect(0, 0, 200, 10 * kRow), parent.Handle(), 77));
-        SendMessageW(list.m_hWnd, LB_SETITEMHEIGHT, 0, kRow);
-        RECT client{}, window{};
-        GetClientRect(list.m_hWnd, &client);
-        GetWindowRect(list.m_hWnd, &window);
-        SetWindowPos(list.m_hWnd, nullptr, 0, 0, 200,
-                     10 * kRow + (window.bottom - window.top) - client.bottom,
-                     SWP_NOMOVE | SWP_NOZORDER);
-    }
+    void SetUp() override { ASSERT_TRUE(CreateList(list, parent, 200)); }
     ParentWindow parent;
     VU_CSummaryListBox list;
 };

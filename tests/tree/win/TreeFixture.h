@@ -60,13 +60,6 @@ protected:
     std::vector<std::u16string> Rows() const { return RowTexts(list->m_hWnd); }
     int Selected() const { return static_cast<int>(SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0)); }
     void Select(int row) { SendMessageW(Hwnd(), LB_SETCURSEL, row, 0); }
-    int RowOf(const char16_t* text) const {
-        const auto rows = Rows();
-        for (size_t i = 0; i < rows.size(); ++i)
-            if (rows[i] == text)
-                return static_cast<int>(i);
-        return -1;
-    }
 
     // A (1)
     //   A1 (2)

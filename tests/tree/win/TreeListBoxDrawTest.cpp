@@ -10,6 +10,19 @@ namespace {
 
 const COLORREF kLineGrey = RGB(128, 128, 128);
 
+// The first and last x from `from` on with ink in the row; -1 if none.
+std::pair<int, int> InkSpan(const ClientPicture& picture, int row, int from, COLORREF background) {
+    int first = -1, last = -1;
+    for (int x = from; x < picture.Width(); ++x)
+        for (int y = row * kRowHeight; y < (row + 1) * kRowHeight; ++y)
+            if (picture.At(x, y) != background) {
+                if (first < 0)
+                    first = x;
+                last = x;
+            }
+    return {first, last};
+}
+
 TEST_F(TreeListTest, DrawsBackgroundsLinesButtonsAndImages) {
     // Header and separator first: AddHeader finds its node by row + 1.
     list->AddHeader(S(u"Header")); // row 0
@@ -65,14 +78,7 @@ TEST_F(TreeListTest, HeaderTextIsBold) {
     list->AddHeader(S(u"WWWW"));
     ClientPicture picture(Hwnd());
     const auto inkWidth = [&](int row, COLORREF background) {
-        int first = -1, last = -1;
-        for (int x = list->GetTextLeft(row); x < picture.Width(); ++x)
-            for (int y = row * kRowHeight; y < (row + 1) * kRowHeight; ++y)
-                if (picture.At(x, y) != background) {
-                    if (first < 0)
-                        first = x;
-                    last = x;
-                }
+        const auto [first, last] = InkSpan(picture, row, list->GetTextLeft(row), background);
         return last - first;
     };
     EXPECT_GT(inkWidth(1, GetSysColor(COLOR_BTNFACE)), inkWidth(0, GetSysColor(COLOR_WINDOW)));
@@ -121,58 +127,48 @@ TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
     ReleaseDC(list.m_hWnd, dc);
     const int column = list.GetTextLeft(0) + 20 * tm.tmAveCharWidth;
     const auto firstInkFrom = [&](int row, int from) {
-        for (int x = from; x < picture.Width(); ++x)
-            for (int y = row * kRowHeight; y < (row + 1) * kRowHeight; ++y)
-                if (picture.At(x, y) != background)
-                    return x;
-        return -1;
+        return InkSpan(picture, row, from, background).first;
     };
     const int gapStart = column - 3; // the long first column stops short of the stop
     EXPECT_EQ(firstInkFrom(0, gapStart), firstInkFrom(1, gapStart));
     EXPECT_GE(firstInkFrom(0, gapStart), column);
 }
 
-TEST(TreeListToolTip, NeedTextGivesTheTextOfARowThatDoesNotFit) {
-    ParentWindow parent(300, 200);
-    ShowWindow(parent.Handle(), SW_SHOWNOACTIVATE);
-    VU_CTreeListBox list;
-    ASSERT_TRUE(CreateList(list, parent, 150, 4));
-    list.DisplayInColumns(false);
-    list.AddItem(S(u"Short"), -1, -1, 0);
-    list.AddItem(S(u"A much longer text than the control is wide, by far"), -1, -1, 0);
-    UpdateWindow(parent.Handle());
-
-    const auto tipAt = [&](int row) {
-        POINT p{60, MidY(row)};
-        ClientToScreen(list.m_hWnd, &p);
-        SetCursorPos(p.x, p.y);
-        NMTTDISPINFOW info{};
-        LRESULT result = 0;
-        EXPECT_TRUE(list.GetToolTipText(&info, &result));
-        return std::u16string(vu::U(info.lpszText));
-    };
-    EXPECT_EQ(u"", tipAt(0)) << "a text that fits gets no tip";
-    EXPECT_EQ(u"A much longer text than the control is wide, by far", tipAt(1));
-}
-
-TEST(TreeListToolTip, WithColumnsTheTipIsTheColumnUnderTheMouse) {
-    ParentWindow parent(300, 200);
-    ShowWindow(parent.Handle(), SW_SHOWNOACTIVATE);
-    VU_CTreeListBox list;
-    ASSERT_TRUE(CreateList(list, parent, 200, 4));
-    CWordArray stops;
-    stops.Add(4);
-    list.SetTabStops(stops);
-    list.AddItem(S(u"Tag\tA long description of the tag that cannot fit"), -1, -1, 0);
-    UpdateWindow(parent.Handle());
-    POINT p{list.GetTextLeft(0) + 100, MidY(0)};
+// The tool tip text the control gives with the mouse at x in the row.
+std::u16string TipAt(VU_CTreeListBox& list, int x, int row) {
+    POINT p{x, MidY(row)};
     ClientToScreen(list.m_hWnd, &p);
     SetCursorPos(p.x, p.y);
     NMTTDISPINFOW info{};
     LRESULT result = 0;
-    list.GetToolTipText(&info, &result);
+    EXPECT_TRUE(list.GetToolTipText(&info, &result));
+    return std::u16string(vu::U(info.lpszText));
+}
+
+TEST(TreeListToolTip, TheTipIsTheTextOrColumnUnderTheMouseThatDoesNotFit) {
+    ParentWindow parent(300, 200);
+    ShowWindow(parent.Handle(), SW_SHOWNOACTIVATE);
+    {
+        VU_CTreeListBox list;
+        ASSERT_TRUE(CreateList(list, parent, 150, 4));
+        list.DisplayInColumns(false);
+        list.AddItem(S(u"Short"), -1, -1, 0);
+        list.AddItem(S(u"A much longer text than the control is wide, by far"), -1, -1, 0);
+        UpdateWindow(parent.Handle());
+        EXPECT_EQ(u"", TipAt(list, 60, 0)) << "a text that fits gets no tip";
+        EXPECT_EQ(u"A much longer text than the control is wide, by far", TipAt(list, 60, 1));
+    }
+
+    SCOPED_TRACE("with columns, the column under the mouse");
+    VU_CTreeListBox columns;
+    ASSERT_TRUE(CreateList(columns, parent, 200, 4));
+    CWordArray stops;
+    stops.Add(4);
+    columns.SetTabStops(stops);
+    columns.AddItem(S(u"Tag\tA long description of the tag that cannot fit"), -1, -1, 0);
+    UpdateWindow(parent.Handle());
     EXPECT_EQ(u"A long description of the tag that cannot fit",
-              std::u16string(vu::U(info.lpszText)));
+              TipAt(columns, columns.GetTextLeft(0) + 100, 0));
 }
 
 TEST(TreeListToolTip, TheControlHasItsToolTipWindow) {
