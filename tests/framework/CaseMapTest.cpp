@@ -16,47 +16,34 @@ TEST(CaseMap, AsciiMatchesTheCRuntimeInTheCLocale) {
     }
 }
 
-TEST(CaseMap, WellKnownSimpleMappings) {
+// The whole table is checked against the Unicode database in the native
+// build; these rows guard the irregular cases where that file is missing.
+TEST(CaseMap, IrregularSimpleMappingsAndTableEdges) {
     struct Row {
         const char* name;
         char16_t ch, lower, upper;
     } rows[] = {
-        {"A umlaut", 0x00C4, 0x00E4, 0x00C4},
-        {"a umlaut", 0x00E4, 0x00E4, 0x00C4},
         {"dotted capital I", 0x0130, 0x0069, 0x0130},
         {"dotless small i", 0x0131, 0x0131, 0x0049},
         {"capital sharp s", 0x1E9E, 0x00DF, 0x1E9E},
         {"sharp s has no simple upper", 0x00DF, 0x00DF, 0x00DF},
         {"final sigma", 0x03C2, 0x03C2, 0x03A3},
         {"capital sigma", 0x03A3, 0x03C3, 0x03A3},
-        {"micro sign", 0x00B5, 0x00B5, 0x039C},
-        {"y diaeresis", 0x00FF, 0x00FF, 0x0178},
+        {"micro sign leaves Latin-1", 0x00B5, 0x00B5, 0x039C},
+        {"y diaeresis leaves Latin-1", 0x00FF, 0x00FF, 0x0178},
         {"titlecase dz", 0x01C5, 0x01C6, 0x01C4},
-        {"cyrillic zhe", 0x0416, 0x0436, 0x0416},
-        {"cyrillic small zhe", 0x0436, 0x0436, 0x0416},
-        {"fullwidth A", 0xFF21, 0xFF41, 0xFF21},
-        {"fullwidth a", 0xFF41, 0xFF41, 0xFF21},
-        {"roman numeral one", 0x2160, 0x2170, 0x2160},
-        {"circled A", 0x24B6, 0x24D0, 0x24B6},
+        {"kelvin sign", 0x212A, 0x006B, 0x212A},
         {"georgian", 0x10A0, 0x2D00, 0x10A0},
         {"cherokee small", 0xAB70, 0xAB70, 0x13A0},
-        {"kelvin sign", 0x212A, 0x006B, 0x212A},
+        {"fullwidth A", 0xFF21, 0xFF41, 0xFF21},
+        {"multiplication sign", 0x00D7, 0x00D7, 0x00D7},
+        {"surrogate", 0xD800, 0xD800, 0xD800},
+        {"last unit", 0xFFFF, 0xFFFF, 0xFFFF},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
         EXPECT_EQ(vu::ToLower(r.ch), r.lower);
         EXPECT_EQ(vu::ToUpper(r.ch), r.upper);
-    }
-}
-
-TEST(CaseMap, NonLettersMapToThemselves) {
-    const char16_t fixed[] = {0x0000, u'0',   u'@',   u'[',   u'`',   u'{',   0x007F,
-                              0x00A0, 0x00D7, 0x00F7, 0x2000, 0x4E00, 0x3042, 0xD800,
-                              0xDBFF, 0xDC00, 0xDFFF, 0xE000, 0xFF10, 0xFFFD, 0xFFFF};
-    for (char16_t c : fixed) {
-        SCOPED_TRACE(static_cast<int>(c));
-        EXPECT_EQ(vu::ToLower(c), c);
-        EXPECT_EQ(vu::ToUpper(c), c);
     }
 }
 
@@ -90,6 +77,8 @@ TEST(CaseMap, CompareNoCaseOrdersByLoweredUnits) {
         {"greek", u"\u0391\u0392\u0393", u"\u03B1\u03B2\u03B3", 0},
         {"dotted I equals i", u"\u0130", u"i", 0},
         {"dotless i is not i", u"\u0131", u"I", 1},
+        {"sharp s is not ss", u"stra\u00DFe", u"STRASSE", 1},
+        {"final sigma is not sigma", u"\u03C2", u"\u03A3", -1},
         {"empty", u"", u"", 0},
         {"empty first", u"", u"a", -1},
     };

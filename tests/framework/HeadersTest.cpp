@@ -19,8 +19,5 @@ TEST(FrameworkHeaders, ScalarTypesHaveTheSystemWidths) {
     static_assert(sizeof(INT_PTR) == sizeof(void*) && sizeof(UINT_PTR) == sizeof(void*));
     static_assert(std::is_same_v<DWORD, unsigned long> && std::is_same_v<LONG, long>);
     static_assert(std::is_same_v<BOOL, int> && std::is_same_v<COLORREF, DWORD>);
-    static_assert(sizeof(CRect) == 4 * sizeof(LONG) && sizeof(CPoint) == 2 * sizeof(LONG));
     static_assert(std::is_standard_layout_v<CRect> && std::is_standard_layout_v<CPoint>);
-    EXPECT_EQ(TRUE, 1);
-    EXPECT_EQ(FALSE, 0);
 }
