@@ -48,8 +48,8 @@ TEST_F(SummaryTest, HeaderAndLineWithTheSameTextStartTwelvePixelsApart) {
     list.AddItem(CString(u"HHH"), false);
     ClientPicture picture(list.m_hWnd);
     const COLORREF background = picture.At(picture.Width() - 1, 1);
-    const int header = picture.FirstInkX(0, kRow, background);
-    const int line = picture.FirstInkX(kRow, 2 * kRow, background);
+    const int header = picture.InkSpan(0, kRow, 0, background).first;
+    const int line = picture.InkSpan(kRow, 2 * kRow, 0, background).first;
     ASSERT_GE(header, 3);
     EXPECT_EQ(12, line - header);
 }

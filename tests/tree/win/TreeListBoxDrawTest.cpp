@@ -10,19 +10,6 @@ namespace {
 
 const COLORREF kLineGrey = RGB(128, 128, 128);
 
-// The first and last x from `from` on with ink in the row; -1 if none.
-std::pair<int, int> InkSpan(const ClientPicture& picture, int row, int from, COLORREF background) {
-    int first = -1, last = -1;
-    for (int x = from; x < picture.Width(); ++x)
-        for (int y = row * kRowHeight; y < (row + 1) * kRowHeight; ++y)
-            if (picture.At(x, y) != background) {
-                if (first < 0)
-                    first = x;
-                last = x;
-            }
-    return {first, last};
-}
-
 TEST_F(TreeListTest, DrawsBackgroundsLinesButtonsAndImages) {
     // Header and separator first: AddHeader finds its node by row + 1.
     list->AddHeader(S(u"Header")); // row 0
@@ -78,7 +65,8 @@ TEST_F(TreeListTest, HeaderTextIsBold) {
     list->AddHeader(S(u"WWWW"));
     ClientPicture picture(Hwnd());
     const auto inkWidth = [&](int row, COLORREF background) {
-        const auto [first, last] = InkSpan(picture, row, list->GetTextLeft(row), background);
+        const auto [first, last] = picture.InkSpan(row * kRowHeight, (row + 1) * kRowHeight,
+                                                   list->GetTextLeft(row), background);
         return last - first;
     };
     EXPECT_GT(inkWidth(1, GetSysColor(COLOR_BTNFACE)), inkWidth(0, GetSysColor(COLOR_WINDOW)));
@@ -127,7 +115,7 @@ TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
     ReleaseDC(list.m_hWnd, dc);
     const int column = list.GetTextLeft(0) + 20 * tm.tmAveCharWidth;
     const auto firstInkFrom = [&](int row, int from) {
-        return InkSpan(picture, row, from, background).first;
+        return picture.InkSpan(row * kRowHeight, (row + 1) * kRowHeight, from, background).first;
     };
     const int gapStart = column - 3; // the long first column stops short of the stop
     EXPECT_EQ(firstInkFrom(0, gapStart), firstInkFrom(1, gapStart));
@@ -175,19 +163,10 @@ TEST(TreeListToolTip, TheControlHasItsToolTipWindow) {
     ParentWindow parent;
     VU_CTreeListBox list;
     ASSERT_TRUE(CreateList(list, parent));
-    HWND tip = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND hWnd, LPARAM lParam) -> BOOL {
-            wchar_t name[64] = {};
-            GetClassNameW(hWnd, name, 64);
-            if (std::wstring(name) == TOOLTIPS_CLASSW) {
-                *reinterpret_cast<HWND*>(lParam) = hWnd;
-                return FALSE;
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&tip));
+    // The tool tip is a top-level window of this thread.
+    HWND tip = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr);
+    while (tip != nullptr && GetWindowThreadProcessId(tip, nullptr) != GetCurrentThreadId())
+        tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr);
     ASSERT_NE(nullptr, tip);
     EXPECT_EQ(1, SendMessageW(tip, TTM_GETTOOLCOUNT, 0, 0));
     EXPECT_EQ(200, SendMessageW(tip, TTM_GETDELAYTIME, TTDT_INITIAL, 0));

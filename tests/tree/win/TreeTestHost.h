@@ -6,6 +6,7 @@
 
 #include "framework/win/Wide.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -45,11 +46,8 @@ public:
     std::vector<Command> commands;
 
     int CountCommands(int code) const {
-        int n = 0;
-        for (const Command& c : commands)
-            if (c.code == code)
-                ++n;
-        return n;
+        return static_cast<int>(std::count_if(commands.begin(), commands.end(),
+                                              [code](const Command& c) { return c.code == code; }));
     }
 
 private:
@@ -153,13 +151,18 @@ public:
         const DWORD p = m_bits[y * m_width + x];
         return RGB((p >> 16) & 0xFF, (p >> 8) & 0xFF, p & 0xFF);
     }
-    // Leftmost x in rows [top, bottom) whose colour differs from background; -1 if none.
-    int FirstInkX(int top, int bottom, COLORREF background) const {
-        for (int x = 0; x < m_width; ++x)
+    // The first and last x from `from` on whose colour in rows [top, bottom)
+    // differs from background; -1 if none.
+    std::pair<int, int> InkSpan(int top, int bottom, int from, COLORREF background) const {
+        int first = -1, last = -1;
+        for (int x = from; x < m_width; ++x)
             for (int y = top; y < bottom; ++y)
-                if (At(x, y) != background)
-                    return x;
-        return -1;
+                if (At(x, y) != background) {
+                    if (first < 0)
+                        first = x;
+                    last = x;
+                }
+        return {first, last};
     }
     bool HasColour(int left, int top, int right, int bottom, COLORREF colour) const {
         for (int y = top; y < bottom; ++y)
