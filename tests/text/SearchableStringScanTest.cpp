@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 
@@ -19,8 +20,7 @@ bool IsDelimiter(char16_t c) {
 }
 
 Text Lower(Text s) {
-    for (char16_t& c : s)
-        c = vu::ToLower(c);
+    std::ranges::transform(s, s.begin(), vu::ToLower);
     return s;
 }
 
@@ -75,52 +75,43 @@ TEST(SearchableStringScan, AgreesWithReferenceLoops) {
     // Letters in both cases, delimiters, characters whose lower case is an
     // ASCII letter (KELVIN SIGN) and other non-ASCII letters.
     const std::u16string_view alphabet = u"aaabAB -.\u212Ak\u00E4\u00C4";
-    int failures = 0;
-    for (int round = 0; round < 400 && failures < 10; ++round) {
+    for (int round = 0; round < 400 && !HasFailure(); ++round) {
         const int length = std::uniform_int_distribution<int>(0, 70)(rng);
         const Text text = Random(rng, length, alphabet);
         const Text find = Random(rng, std::uniform_int_distribution<int>(1, 4)(rng), alphabet);
         VU_CSearchableString s(text.c_str());
         for (int start = -2; start <= length + 1; ++start)
-            for (int mode = 0; mode < 4; ++mode) {
-                const bool wholeWord = mode & 1, noCase = mode & 2;
-                const int forward = noCase ? s.FindNoCase(find.c_str(), start, wholeWord)
-                                           : s.Find(find.c_str(), start, wholeWord);
-                const int backward = noCase ? s.ReverseFindNoCase(find.c_str(), start, wholeWord)
-                                            : s.ReverseFind(find.c_str(), start, wholeWord);
-                const int wantForward = ReferenceFind(text, find, start, wholeWord, noCase);
-                const int wantBackward = ReferenceReverseFind(text, find, start, wholeWord, noCase);
-                if (forward != wantForward || backward != wantBackward) {
-                    ++failures;
-                    ADD_FAILURE() << "round " << round << " length " << length << " start " << start
-                                  << " wholeWord " << wholeWord << " noCase " << noCase
-                                  << ": forward " << forward << " (want " << wantForward
-                                  << "), backward " << backward << " (want " << wantBackward << ")";
+            for (const bool noCase : {false, true})
+                for (const BOOL wholeWord : {FALSE, TRUE}) {
+                    SCOPED_TRACE(testing::Message()
+                                 << "round " << round << " start " << start << " wholeWord "
+                                 << wholeWord << " noCase " << noCase);
+                    EXPECT_EQ(noCase ? s.FindNoCase(find.c_str(), start, wholeWord)
+                                     : s.Find(find.c_str(), start, wholeWord),
+                              ReferenceFind(text, find, start, wholeWord, noCase));
+                    EXPECT_EQ(noCase ? s.ReverseFindNoCase(find.c_str(), start, wholeWord)
+                                     : s.ReverseFind(find.c_str(), start, wholeWord),
+                              ReferenceReverseFind(text, find, start, wholeWord, noCase));
                 }
-            }
     }
 }
 
 TEST(SearchableStringScan, CharacterSearchesAgreeWithReferenceLoops) {
     std::mt19937 rng(78);
     const std::u16string_view alphabet = u"abAB ,\u212Ak";
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 300 && !HasFailure(); ++round) {
         const int length = std::uniform_int_distribution<int>(0, 50)(rng);
         const Text text = Random(rng, length, alphabet);
         const char16_t ch = alphabet[round % alphabet.size()];
         VU_CSearchableString s(text.c_str());
         SCOPED_TRACE("round " + std::to_string(round));
-        const auto last = text.rfind(ch);
-        EXPECT_EQ(s.ReverseFind(ch), last == Text::npos ? -1 : static_cast<int>(last));
+        // npos converts to -1 (C++20 integral conversion is modular).
+        EXPECT_EQ(s.ReverseFind(ch), static_cast<int>(text.rfind(ch)));
         for (int start = 0; start <= length; ++start) {
-            const auto at = text.find(ch, start);
-            EXPECT_EQ(s.Find(ch, start, FALSE), at == Text::npos ? -1 : static_cast<int>(at));
+            EXPECT_EQ(s.Find(ch, start, FALSE), static_cast<int>(text.find(ch, start)));
             for (int to = start; to <= length; to += 7) {
-                const auto end = std::max(to, start + 1);
-                const auto in =
-                    text.substr(0, std::min<std::size_t>(end, text.size())).find(ch, start);
-                EXPECT_EQ(s.FindN(ch, start, to, FALSE),
-                          in == Text::npos ? -1 : static_cast<int>(in))
+                const Text upTo = text.substr(0, std::max(to, start + 1));
+                EXPECT_EQ(s.FindN(ch, start, to, FALSE), static_cast<int>(upTo.find(ch, start)))
                     << "from " << start << " to " << to;
             }
         }

@@ -50,14 +50,7 @@ TEST(XmlWriter, ExactOutput) {
          },
          u"<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"yes\"?>"
          u"<Node Name=\"a=\n Id=\"7=\n>x&lt;y</Node>"},
-        {"start tag left open", [](Writer& w) { w.WriteStartElement(u"a"); }, u"<a"},
-        {"no empty-element syntax",
-         [](Writer& w) {
-             w.WriteStartElement(u"a");
-             w.WriteEndElement();
-         },
-         u"<a></a>"},
-        {"close ends innermost first",
+        {"close ends innermost first, no empty-element syntax",
          [](Writer& w) {
              for (const char16_t* n : {u"a", u"b", u"c"})
                  w.WriteStartElement(n);
@@ -122,14 +115,12 @@ TEST(XmlWriter, EntitiesTranslatedInOneScan) {
         const char* name;
         std::u16string in, out;
     } rows[] = {
+        // Parsed back by libxml2 on generated texts in XmlWriterLibxml2Test;
+        // these rows pin the exact spelling.
         {"empty", u"", u""},
-        {"plain", u"plain text", u"plain text"},
         {"each in input order", u"<&>\"'", u"&lt;&amp;&gt;&quot;&apos;"},
-        {"entity escaped again", u"&amp;", u"&amp;amp;"},
-        {"adjacent, at both ends", u"&&b>", u"&amp;&amp;b&gt;"},
-        {"CDATA end", u"]]>x", u"]]&gt;x"},
-        {"no numeric references", u"\u00e9\u4e2d\U0001F600<", u"\u00e9\u4e2d\U0001F600&lt;"},
-        {"controls unchanged", u"t\tn\nr\r", u"t\tn\nr\r"},
+        {"no numeric references, controls unchanged", u"\u00e9\U0001F600\t\n\r<",
+         u"\u00e9\U0001F600\t\n\r&lt;"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -148,10 +139,9 @@ TEST(XmlWriter, NameRules) {
     const struct {
         std::u16string name;
         bool ok;
-    } rows[] = {{u"ab:c", true}, {u"_x", true},   {u"x", true},      {u"9", true},
-                {u"-x", true},   {u"1a", true},   {u"\u00e9", true}, {u"ab-c", false},
-                {u"a.b", false}, {u"a b", false}, {u"a1", false},    {u"a\u00e9", false},
-                {u"", false}};
+    } rows[] = {{u"ab:c", true}, {u"_x", true},       {u"9", true},     {u"-x", true},
+                {u"1a", true},   {u"\u00e9", true},   {u"ab-c", false}, {u"a.b", false},
+                {u"a1", false},  {u"a\u00e9", false}, {u"", false}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << "name of " << row.name.size() << " units starting "
                                         << static_cast<int>(row.name.empty() ? 0 : row.name[0]));
