@@ -102,17 +102,12 @@ TEST(TreeNode, ImageLookups) {
     CTreeNode copy(CString(u"n"), pair, 0, 1, nullptr);
     pair.SetAt(0, 99);
     EXPECT_EQ(3, copy.GetImageIndex(0)) << "the node holds a copy";
-}
 
-TEST(ImageIndexArray, CopyAndAssignmentCopyElementByElement) {
-    VU_CImageIndexArray source = VU_CImageIndexArray::Pair(1, 2);
-    VU_CImageIndexArray copy(source);
-    EXPECT_EQ(2, copy.GetSize());
-    EXPECT_EQ(2, copy.GetAt(1));
-    VU_CImageIndexArray target;
-    for (int i = 0; i < 5; ++i)
-        target.Add(9);
-    target = source; // the target is emptied first, then sized to the source
+    SCOPED_TRACE("array copy and assignment");
+    VU_CImageIndexArray target(two);
+    EXPECT_EQ(4, target.GetSize());
+    EXPECT_EQ(21, target.GetAt(3));
+    target = VU_CImageIndexArray::Pair(1, 2); // emptied first, then sized to the source
     VU_CImageIndexArray& self = target;
     target = self;
     ASSERT_EQ(2, target.GetSize());
