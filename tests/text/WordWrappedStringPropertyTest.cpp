@@ -11,22 +11,11 @@ namespace {
 using Lines = std::vector<std::u16string>;
 
 std::u16string RandomText(std::mt19937& rng) {
-    static const std::u16string pieces[] = {u"a",
-                                            u"word",
-                                            u"supercalifragilistic",
-                                            u" ",
-                                            u" ",
-                                            u" ",
-                                            u"\t",
-                                            u"\r\n",
-                                            u"\r",
-                                            u"\n",
-                                            u"\u3000",
-                                            u"\u00a0",
-                                            u"\u00e9t\u00e9",
-                                            u"\u4e2d\u6587",
-                                            u"\U0001F600",
-                                            u"\v"};
+    // clang-format off
+    static const std::u16string pieces[] = {
+        u"a", u"word", u"supercalifragilistic", u" ", u" ", u" ", u"\t", u"\r\n", u"\r", u"\n",
+        u"\u3000", u"\u00a0", u"\u00e9t\u00e9", u"\u4e2d\u6587", u"\U0001F600", u"\v"};
+    // clang-format on
     std::uniform_int_distribution<size_t> pick(0, std::size(pieces) - 1);
     std::u16string text;
     const size_t count = std::uniform_int_distribution<size_t>(0, 60)(rng);

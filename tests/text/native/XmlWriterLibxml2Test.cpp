@@ -26,21 +26,11 @@ std::string ToUtf8(std::u16string_view s) {
         char32_t c = s[i];
         if (c >= 0xD800 && c < 0xDC00 && i + 1 < s.size())
             c = 0x10000 + ((c - 0xD800) << 10) + (s[++i] - 0xDC00);
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | c >> 6);
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | c >> 12);
-            out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | c >> 18);
-            out += static_cast<char>(0x80 | (c >> 12 & 0x3F));
-            out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
+        const int tail = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+        // Lead byte: 0xxxxxxx, 110xxxxx, 1110xxxx or 11110xxx, then 10xxxxxx each.
+        out += static_cast<char>((tail ? 0xFF00 >> (tail + 1) & 0xFF : 0) | c >> 6 * tail);
+        for (int k = tail - 1; k >= 0; --k)
+            out += static_cast<char>(0x80 | (c >> 6 * k & 0x3F));
     }
     return out;
 }
