@@ -209,11 +209,14 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
                     return q;
             }
         }
-        // Later regions: look for the literal's rarest unit (or the NUL)
-        // alone, and only in a region holding one test it together with a
-        // second unit at most 7 units away. Loads that reach into the next
-        // region happen only once this region is known to hold no NUL; loads
-        // that reach back stay in regions already read.
+        // Later regions: look for the literal's rarest unit alone, and only in
+        // a region holding one test it together with a second unit at most 7
+        // units away. The NUL is not looked for unit by unit: a running signed
+        // minimum of the units shows, per page, whether a NUL (or a unit at or
+        // above 0x8000) may have been passed, and only then are the regions
+        // examined exactly. Loads never leave the page of a unit that belongs
+        // to the string, except the partner loads, which happen only once the
+        // string is known to go on past the region.
         size_t rare = 0;
         for (size_t i = 1; i < length; ++i)
             if (Commonness(literal[i]) < Commonness(literal[rare]))
@@ -225,19 +228,20 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
         const ptrdiff_t shift = ptrdiff_t(partner) - ptrdiff_t(rare);
         const __m128i rareUnit = _mm_set1_epi16(short(literal[rare]));
         const __m128i partnerUnit = _mm_set1_epi16(short(literal[partner]));
-        for (region += 64;; region += 64) {
-            const __m128i* p = reinterpret_cast<const __m128i*>(region);
-            const char16_t* units = reinterpret_cast<const char16_t*>(region);
+        const __m128i one = _mm_set1_epi16(1);
+        const __m128i highest = _mm_set1_epi16(0x7FFF);
+
+        // Examines one region exactly (no NUL before it): true when the
+        // search is over, with the match or null in `found`.
+        auto examine = [&](uintptr_t at, const char16_t*& found) VU_NO_ASAN {
+            const __m128i* p = reinterpret_cast<const __m128i*>(at);
+            const char16_t* units = reinterpret_cast<const char16_t*>(at);
             const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
             const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
             const __m128i r0 = _mm_cmpeq_epi16(a0, rareUnit), r1 = _mm_cmpeq_epi16(a1, rareUnit);
             const __m128i r2 = _mm_cmpeq_epi16(a2, rareUnit), r3 = _mm_cmpeq_epi16(a3, rareUnit);
-            const __m128i z0 = _mm_cmpeq_epi16(a0, zero), z1 = _mm_cmpeq_epi16(a1, zero);
-            const __m128i z2 = _mm_cmpeq_epi16(a2, zero), z3 = _mm_cmpeq_epi16(a3, zero);
-            if (!Any(_mm_or_si128(r0, z0), _mm_or_si128(r1, z1), _mm_or_si128(r2, z2),
-                     _mm_or_si128(r3, z3)))
-                continue;
-            const uint64_t nul = Mask64(z0, z1, z2, z3);
+            const uint64_t nul = Mask64(_mm_cmpeq_epi16(a0, zero), _mm_cmpeq_epi16(a1, zero),
+                                        _mm_cmpeq_epi16(a2, zero), _mm_cmpeq_epi16(a3, zero));
             uint64_t m;
             if (nul) {
                 // Only a rare unit before the NUL can belong to a match.
@@ -251,15 +255,43 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
             }
             for (; m; m &= m - 1, m &= m - 1) {
                 // Candidates come in the order of their start.
-                const char16_t* at = units + __builtin_ctzll(m) / 2;
-                if (size_t(at - s) < rare)
+                const char16_t* hit = units + __builtin_ctzll(m) / 2;
+                if (size_t(hit - s) < rare)
                     continue; // the literal would start before s
-                const char16_t* q = at - rare;
-                if (MatchesAt(q, literal, length))
-                    return q;
+                if (MatchesAt(hit - rare, literal, length)) {
+                    found = hit - rare;
+                    return true;
+                }
             }
-            if (nul)
-                return nullptr;
+            found = nullptr;
+            return nul != 0;
+        };
+        auto mayHoldNul = [one](__m128i low) { return Mask(_mm_cmplt_epi16(low, one)) != 0; };
+
+        const char16_t* found = nullptr;
+        for (region += 64;;) {
+            const uintptr_t pageEnd = (region & ~uintptr_t(4095)) + 4096;
+            uintptr_t unchecked = region; // first region not known to be NUL-free
+            __m128i low = highest;        // signed minimum of the units from there
+            for (; region < pageEnd; region += 64) {
+                const __m128i* p = reinterpret_cast<const __m128i*>(region);
+                const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
+                const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
+                low =
+                    _mm_min_epi16(low, _mm_min_epi16(_mm_min_epi16(a0, a1), _mm_min_epi16(a2, a3)));
+                if (!Any(_mm_cmpeq_epi16(a0, rareUnit), _mm_cmpeq_epi16(a1, rareUnit),
+                         _mm_cmpeq_epi16(a2, rareUnit), _mm_cmpeq_epi16(a3, rareUnit)))
+                    continue;
+                for (uintptr_t at = mayHoldNul(low) ? unchecked : region; at <= region; at += 64)
+                    if (examine(at, found))
+                        return found;
+                unchecked = region + 64;
+                low = highest;
+            }
+            if (mayHoldNul(low))
+                for (uintptr_t at = unchecked; at < pageEnd; at += 64)
+                    if (examine(at, found))
+                        return found;
         }
     }
 #endif

@@ -19,9 +19,13 @@ const char16_t* NaiveFindUnit(const char16_t* s, char16_t c) {
 }
 
 const char16_t* NaiveFindLiteral(const char16_t* s, std::u16string_view lit) {
-    for (; *s; ++s)
-        if (std::u16string_view(s).substr(0, lit.size()) == lit)
+    for (; *s; ++s) {
+        size_t i = 0;
+        while (i < lit.size() && s[i] == lit[i])
+            ++i;
+        if (i == lit.size())
             return s;
+    }
     return nullptr;
 }
 
@@ -128,6 +132,30 @@ TEST(RegExpressionScan, LongLiteralsWithTheRareUnitLate) {
             EXPECT_EQ(VU_CRegExpScan::FindLiteral(cut.s, literal.data(), literal.size()),
                       NaiveFindLiteral(cut.s, literal));
         }
+    }
+}
+
+TEST(RegExpressionScan, LiteralsAcrossPagesWithTextAfterTheNul) {
+    // Several pages of text; a NUL somewhere, and occurrences of the literal
+    // on both sides of it. Units above 0x7FFF make the scan re-examine pages.
+    std::mt19937 random(11);
+    const std::u16string literal = u"taQe";
+    for (int round = 0; round < 300; ++round) {
+        std::u16string t(9000 + random() % 200, u'e');
+        const bool high = round % 2 == 1;
+        for (char16_t& c : t)
+            c = high ? u"eta \u9000"[random() % 5] : u"eta "[random() % 4]; // Q only in the literal
+        for (int k = 0; k < 3; ++k) {
+            const size_t at = random() % (t.size() - literal.size());
+            std::copy(literal.begin(), literal.end(), t.begin() + long(at));
+        }
+        const size_t nul = random() % t.size();
+        t[nul] = 0;
+        const size_t offset = random() % 40;
+        SCOPED_TRACE("round " + std::to_string(round) + ", NUL at " + std::to_string(nul));
+        Subject subject(offset, t, u'Q');
+        EXPECT_EQ(VU_CRegExpScan::FindLiteral(subject.s, literal.data(), literal.size()),
+                  NaiveFindLiteral(subject.s, literal));
     }
 }
 
