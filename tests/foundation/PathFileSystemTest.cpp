@@ -50,34 +50,34 @@ protected:
         return p;
     }
     void MakeFile(const std::u16string& path) const { std::ofstream(fs::path(path)) << "x"; }
+    static bool IsDir(const std::u16string& path) { return fs::is_directory(fs::path(path)); }
 
     fs::path m_dir;
     std::u16string m_root;
 };
 
-TEST_F(PathFileSystem, CreateDirMakesEveryMissingDirectory) {
+TEST_F(PathFileSystem, CreateDirMakesEveryMissingDirectoryOrFails) {
     const AF_CPath p(In({u"a", u"b c", u"d", u"file.txt"}).c_str());
     EXPECT_FALSE(p.DirExists());
     EXPECT_TRUE(p.CreateDir());
-    EXPECT_TRUE(fs::is_directory(fs::path(In({u"a", u"b c", u"d"}))));
+    EXPECT_TRUE(IsDir(In({u"a", u"b c", u"d"})));
     EXPECT_FALSE(p.FileExists()); // only the directories are made
     EXPECT_TRUE(p.DirExists());
     EXPECT_TRUE(p.CreateDir()); // again: nothing left to make
-
     // A trailing separator makes the last component a directory too.
     EXPECT_TRUE(AF_CPath((In({u"e", u"f"}) + kSep).c_str()).CreateDir());
-    EXPECT_TRUE(fs::is_directory(fs::path(In({u"e", u"f"}))));
-}
+    EXPECT_TRUE(IsDir(In({u"e", u"f"})));
 
-TEST_F(PathFileSystem, CreateDirRefusesWhatItCannotMake) {
     MakeFile(In({u"plain"}));
     EXPECT_FALSE(AF_CPath(In({u"plain", u"sub", u"x.txt"}).c_str()).CreateDir());
     EXPECT_FALSE(fs::exists(fs::path(In({u"plain", u"sub"}))));
-    EXPECT_FALSE(AF_CPath(u"relative\\dir\\x.txt").CreateDir());
-    EXPECT_FALSE(AF_CPath(u"\\\\machine\\share\\dir\\x.txt").CreateDir());
-    EXPECT_FALSE(AF_CPath(u"x.txt").CreateDir());
-    const std::u16string tooLong = In({std::u16string(261, u'l'), u"x.txt"});
-    EXPECT_FALSE(AF_CPath(tooLong.c_str()).CreateDir());
+    for (const std::u16string& bad :
+         {std::u16string(u"relative\\dir\\x.txt"),
+          std::u16string(u"\\\\machine\\share\\dir\\x.txt"), std::u16string(u"x.txt"),
+          In({std::u16string(261, u'l'), u"x.txt"})}) {
+        SCOPED_TRACE(Ascii(bad));
+        EXPECT_FALSE(AF_CPath(bad.c_str()).CreateDir());
+    }
 #ifndef _WIN32
     EXPECT_FALSE(AF_CPath(u"C:\\dir\\x.txt").CreateDir()); // no drive letters here
 #endif
@@ -90,16 +90,16 @@ TEST_F(PathFileSystem, DeleteDirRemovesOnlyAnEmptyExistingDirectory) {
     EXPECT_TRUE(p.DeleteDir());
     EXPECT_FALSE(fs::exists(fs::path(In({u"gone"}))));
 
-    ASSERT_TRUE(AF_CPath(In({u"full", u"x.txt"}).c_str()).CreateDir());
-    MakeFile(In({u"full", u"x.txt"}));
-    EXPECT_FALSE(AF_CPath(In({u"full", u"x.txt"}).c_str()).DeleteDir());
+    const std::u16string file = In({u"full", u"x.txt"});
+    ASSERT_TRUE(AF_CPath(file.c_str()).CreateDir());
+    MakeFile(file);
+    EXPECT_FALSE(AF_CPath(file.c_str()).DeleteDir());
     EXPECT_FALSE(AF_CPath::DeleteDir(In({u"full"}).c_str()));
-    fs::remove(fs::path(In({u"full", u"x.txt"})));
+    fs::remove(fs::path(file));
     EXPECT_TRUE(AF_CPath::DeleteDir(In({u"full"}).c_str()));
     EXPECT_FALSE(AF_CPath::DeleteDir(nullptr));
-}
 
-TEST_F(PathFileSystem, ExistenceTestsDoNotCheckTheKind) {
+    // Existence tests do not check the kind.
     MakeFile(In({u"f.txt"}));
     EXPECT_TRUE(AF_CPath::FileExists(In({u"f.txt"}).c_str()));
     EXPECT_TRUE(AF_CPath::DirExists(In({u"f.txt"}).c_str()));
@@ -107,9 +107,7 @@ TEST_F(PathFileSystem, ExistenceTestsDoNotCheckTheKind) {
     EXPECT_FALSE(AF_CPath::FileExists(In({u"missing"}).c_str()));
     EXPECT_FALSE(AF_CPath::DirExists(u""));
     EXPECT_FALSE(AF_CPath::FileExists(nullptr));
-    const CString cwd = AF_CPath::GetCwd();
-    EXPECT_FALSE(cwd.IsEmpty());
-    EXPECT_TRUE(AF_CPath::DirExists(cwd));
+    EXPECT_TRUE(AF_CPath::DirExists(AF_CPath::GetCwd()));
 }
 
 TEST_F(PathFileSystem, MakeAbsoluteResolvesDotsTextually) {

@@ -21,19 +21,16 @@ int CompareNoCase(const CString* a, const CString* b) {
 }
 
 TEST(SortingStringArray, SortsInPlaceWithTheGivenOrder) {
-    AF_CSortingStringArray a;
-    for (const char16_t* s : {u"b", u"A", u"B", u"a", u"_"})
+    AF_CSortingStringArray a, b, empty;
+    for (const char16_t* s : {u"b", u"A", u"B", u"a"}) {
         a.Add(s);
+        b.Add(s);
+    }
+    a.Add(u"_");
     a.Sort(&AF_CSortingStringArray::Compare);
     EXPECT_EQ(Joined(a), "A B _ a b ");
-
-    AF_CSortingStringArray b;
-    for (const char16_t* s : {u"b", u"A", u"B", u"a"})
-        b.Add(s);
     b.Sort(&CompareNoCase); // equal elements keep their order
     EXPECT_EQ(Joined(b), "A a b B ");
-
-    AF_CSortingStringArray empty;
     empty.Sort(nullptr);
     EXPECT_EQ(empty.GetSize(), 0);
 }

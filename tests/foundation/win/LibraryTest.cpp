@@ -22,56 +22,40 @@ std::u16string Str(const CString& s) {
     return std::u16string(s.GetString());
 }
 
-TEST(LibraryTest, InstanceHandleIsTheDllsModule) {
+TEST(LibraryTest, InstanceHandleIsTheDllsModuleSearchedAfterTheHost) {
     HMODULE dll = GetModuleHandleW(L"vulib.dll");
     ASSERT_NE(dll, nullptr);
     EXPECT_EQ(VuGetInstanceHandle(), dll);
     EXPECT_EQ(AfxGetInstanceHandle(), dll);
     VuLibInitialize(); // nothing to do, and harmless
     EXPECT_EQ(VuGetInstanceHandle(), dll);
-}
-
-TEST(LibraryTest, ChainSearchesTheHostFirstThenTheLibrary) {
     HINSTANCE modules[8] = {};
-    int count = AfxGetResourceChain(modules, 8);
-    ASSERT_GE(count, 2);
+    ASSERT_GE(AfxGetResourceChain(modules, 8), 2);
     EXPECT_EQ(modules[0], GetModuleHandleW(nullptr));
-    EXPECT_EQ(modules[1], VuGetInstanceHandle());
+    EXPECT_EQ(modules[1], dll);
 }
 
+// Ids 2002 to 2017 in turn, '|' between them; an empty text means no string,
+// as for 1 and 65535.
 TEST(LibraryTest, StringTableThroughTheChain) {
-    struct Row {
-        UINT id;
-        const char16_t* text;
-    };
-    const Row rows[] = {
-        {2002, u"Fatal Error: "}, {2003, u"\nApplication will terminate."},
-        {2004, u"Condition:"},    {2007, u"OK"},
-        {2008, u"Cancel"},        {2009, u"Help"},
-        {2010, u"Yes"},           {2011, u"No"},
-        {2012, u"Close"},         {2013, u"Retry"},
-        {2014, u"Abort"},         {2015, u"Ignore"},
-        {2016, u"Unknown"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.id);
-        CString text;
-        EXPECT_TRUE(AfxLoadString(row.id, text));
-        EXPECT_EQ(Str(text), row.text);
-        // The same text straight from the library's module.
-        wchar_t buffer[64] = {};
-        int length = LoadStringW(VuGetInstanceHandle(), row.id, buffer, 64);
-        EXPECT_EQ(std::u16string(vu::U(buffer), length), row.text);
-    }
-}
-
-TEST(LibraryTest, MissingStringsLoadAsEmptyAndFalse) {
-    for (UINT id : {2005u, 2006u, 2017u, 1u, 65535u}) {
+    const std::u16string texts = u"Fatal Error: |\nApplication will terminate.|Condition:|||OK|"
+                                 u"Cancel|Help|Yes|No|Close|Retry|Abort|Ignore|Unknown||";
+    auto check = [](UINT id, const std::u16string& expected) {
         SCOPED_TRACE(id);
         CString text(u"stale");
-        EXPECT_FALSE(AfxLoadString(id, text));
-        EXPECT_TRUE(text.IsEmpty());
-    }
+        EXPECT_EQ(AfxLoadString(id, text), !expected.empty());
+        EXPECT_EQ(Str(text), expected);
+        wchar_t buffer[64] = {}; // the same text straight from the library's module
+        int length = LoadStringW(VuGetInstanceHandle(), id, buffer, 64);
+        EXPECT_EQ(std::u16string(vu::U(buffer), length), expected);
+    };
+    UINT id = 2002;
+    for (std::size_t start = 0, bar; (bar = texts.find(u'|', start)) != std::u16string::npos;
+         start = bar + 1)
+        check(id++, texts.substr(start, bar - start));
+    EXPECT_EQ(id, 2018u);
+    check(1, u"");
+    check(65535, u"");
 }
 
 TEST(LibraryTest, TraceDumpIsMadeOnceAndWritesToTheTempFile) {
@@ -109,11 +93,6 @@ protected:
     VU_CHostServices services;
 };
 
-TEST_F(DefaultProfileTest, KeyIsNamedAfterTheHostExecutable) {
-    EXPECT_EQ(Str(VU_CHostServices::GetDefaultProfileKey()),
-              u"Software\\VuLib\\vulib_foundation_win_tests");
-}
-
 TEST_F(DefaultProfileTest, IntegersAndStringsRoundTripThroughTheRegistry) {
     EXPECT_EQ(services.GetProfileInt(kSection, u"Splitter", 120), 120u);
     EXPECT_TRUE(services.WriteProfileInt(kSection, u"Splitter", 345));
@@ -128,7 +107,9 @@ TEST_F(DefaultProfileTest, IntegersAndStringsRoundTripThroughTheRegistry) {
     EXPECT_TRUE(services.WriteProfileString(kSection, u"Empty", u""));
     EXPECT_EQ(Str(services.GetProfileString(kSection, u"Empty", u"fallback")), u"");
 
-    // The value really is in the registry where the documentation says.
+    // The value really is in the registry, under a key named after the host.
+    EXPECT_EQ(Str(VU_CHostServices::GetDefaultProfileKey()),
+              u"Software\\VuLib\\vulib_foundation_win_tests");
     CString path = VU_CHostServices::GetDefaultProfileKey() + u"\\" + kSection;
     DWORD value = 0, size = sizeof(value);
     EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, vu::W(path.GetString()), L"Splitter",

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,26 +13,18 @@
 namespace {
 
 const UINT kProbe = WM_APP + 1;
+using Log = std::string; // entries joined by spaces
 
 // Appends "<name>.on" / "<name>.after" to a shared log and answers as told.
 class RecordingFilter : public VU_CMessageFilter {
 public:
-    RecordingFilter(std::string name, std::vector<std::string>* log)
-        : m_name(std::move(name)), m_log(log) {}
+    RecordingFilter(std::string name, Log* log) : m_name(std::move(name)), m_log(log) {}
 
     LRESULT OnMessage(UINT message, WPARAM, LPARAM) override {
-        if (message == kProbe)
-            m_log->push_back(m_name + ".on");
-        if (onMessage)
-            return onMessage(message);
-        return message == kProbe ? onResult : 0;
+        return Answer(message, ".on", onMessage, onResult);
     }
     LRESULT AfterMessage(UINT message, WPARAM, LPARAM) override {
-        if (message == kProbe)
-            m_log->push_back(m_name + ".after");
-        if (afterMessage)
-            return afterMessage(message);
-        return message == kProbe ? afterResult : 0;
+        return Answer(message, ".after", afterMessage, afterResult);
     }
 
     LRESULT onResult = 0;
@@ -40,8 +33,31 @@ public:
     std::function<LRESULT(UINT)> afterMessage;
 
 private:
+    LRESULT Answer(UINT message, const char* step, const std::function<LRESULT(UINT)>& custom,
+                   LRESULT result) {
+        if (message == kProbe)
+            *m_log += (m_log->empty() ? "" : " ") + m_name + step;
+        if (custom)
+            return custom(message);
+        return message == kProbe ? result : 0;
+    }
+
     std::string m_name;
-    std::vector<std::string>* m_log;
+    Log* m_log;
+};
+
+// Two filters on one window, the newer asked first.
+struct FilterPair {
+    explicit FilterPair(HWND hwnd) {
+        older.ListenTo(hwnd);
+        newer.ListenTo(hwnd);
+    }
+    ~FilterPair() {
+        newer.StopListening();
+        older.StopListening();
+    }
+    Log log;
+    RecordingFilter older{"older", &log}, newer{"newer", &log};
 };
 
 class MessageFilterTest : public ::testing::Test {
@@ -51,7 +67,7 @@ protected:
         window.onMessage = [this](UINT message, WPARAM, LPARAM, LRESULT* result) {
             if (message != kProbe)
                 return false;
-            log.push_back("window");
+            log += log.empty() ? "window" : " window";
             *result = windowResult;
             return true;
         };
@@ -60,7 +76,10 @@ protected:
     WNDPROC CurrentProcedure() const {
         return reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window.hwnd, GWLP_WNDPROC));
     }
-    LRESULT Probe() { return SendMessageW(window.hwnd, kProbe, 0, 0); }
+    LRESULT Probe() {
+        log.clear();
+        return SendMessageW(window.hwnd, kProbe, 0, 0);
+    }
     int FilterCount() const {
         VU_CMessageFilterArray* array = nullptr;
         return VU_CMessageFilter::Lookup(window.hwnd, &array) ? static_cast<int>(array->GetSize())
@@ -68,153 +87,92 @@ protected:
     }
 
     vutest::PlainWindow window;
-    std::vector<std::string> log;
+    Log log;
     LRESULT windowResult = 5;
 };
 
-using Log = std::vector<std::string>;
-
-// ---- order and swallowing ---------------------------------------------------
-
-TEST_F(MessageFilterTest, NewestFilterIsAskedFirstAndAfterMessagesFollowTheWindow) {
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(window.hwnd);
-    newer.ListenTo(window.hwnd);
-
-    EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"newer.on", "older.on", "window", "newer.after", "older.after"}));
-    newer.StopListening();
-    older.StopListening();
-}
-
-TEST_F(MessageFilterTest, NonZeroOnMessageEndsTheMessageWithItsValue) {
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(window.hwnd);
-    newer.ListenTo(window.hwnd);
-    newer.onResult = 42;
-
-    EXPECT_EQ(Probe(), 42);
-    EXPECT_EQ(log, (Log{"newer.on"})); // no older filter, no window, no AfterMessage
-    EXPECT_EQ(window.Count(kProbe), 0);
-
-    log.clear();
-    newer.onResult = 0;
-    older.onResult = -7;
-    EXPECT_EQ(Probe(), -7);
-    EXPECT_EQ(log, (Log{"newer.on", "older.on"}));
-    newer.StopListening();
-    older.StopListening();
-}
-
-TEST_F(MessageFilterTest, NonZeroAfterMessageMakesTheResultOne) {
+// A non-zero OnMessage ends the message with its value; a non-zero
+// AfterMessage makes the result 1 and ends the walk.
+TEST_F(MessageFilterTest, OrderAndResults) {
     struct Row {
-        LRESULT windowResult;
-        LRESULT newerAfter;
-        LRESULT olderAfter;
-        LRESULT expected;
-        Log expectedLog;
+        const char* name;
+        LRESULT windowResult, newerOn, olderOn, newerAfter, olderAfter, expected;
+        Log log;
     };
+    const Log all = "newer.on older.on window newer.after older.after";
+    const Log stopsAfterNewer = "newer.on older.on window newer.after";
     const Row rows[] = {
-        {77, 0, 0, 77, {"newer.on", "older.on", "window", "newer.after", "older.after"}},
-        {77, 0, 9, 1, {"newer.on", "older.on", "window", "newer.after", "older.after"}},
-        {0, 9, 0, 1, {"newer.on", "older.on", "window", "newer.after"}}, // walk stops
-        {-5, -1, 0, 1, {"newer.on", "older.on", "window", "newer.after"}},
+        {"newest first, AfterMessage follows the window", 77, 0, 0, 0, 0, 77, all},
+        {"newer swallows", 5, 42, 0, 0, 0, 42, "newer.on"},
+        {"older swallows", 5, 0, -7, 0, 0, -7, "newer.on older.on"},
+        {"older AfterMessage", 77, 0, 0, 0, 9, 1, all},
+        {"newer AfterMessage stops the walk", 0, 0, 0, 9, 0, 1, stopsAfterNewer},
+        {"negative AfterMessage", -5, 0, 0, -1, 0, 1, stopsAfterNewer},
     };
     RecordingFilter older("older", &log), newer("newer", &log);
     older.ListenTo(window.hwnd);
     newer.ListenTo(window.hwnd);
     for (const Row& row : rows) {
-        SCOPED_TRACE(::testing::Message() << "window " << row.windowResult << ", after "
-                                          << row.newerAfter << "/" << row.olderAfter);
-        log.clear();
+        SCOPED_TRACE(row.name);
         windowResult = row.windowResult;
+        newer.onResult = row.newerOn;
+        older.onResult = row.olderOn;
         newer.afterResult = row.newerAfter;
         older.afterResult = row.olderAfter;
         EXPECT_EQ(Probe(), row.expected);
-        EXPECT_EQ(log, row.expectedLog);
+        EXPECT_EQ(log, row.log);
     }
     newer.StopListening();
     older.StopListening();
 }
 
-// ---- removal keeps the chain intact -----------------------------------------
-
-TEST_F(MessageFilterTest, RemovingTheOlderFilterHandsTheWindowProcedureToTheNewer) {
-    const WNDPROC own = CurrentProcedure();
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(window.hwnd);
-    newer.ListenTo(window.hwnd);
-
-    const WNDPROC filtered = CurrentProcedure();
-    EXPECT_NE(filtered, own);
-    older.StopListening();
-    EXPECT_FALSE(older.IsHooked());
-    EXPECT_EQ(CurrentProcedure(), filtered);
-    EXPECT_EQ(FilterCount(), 1);
-    EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"newer.on", "window", "newer.after"}));
-
-    newer.StopListening();
-    EXPECT_EQ(CurrentProcedure(), own);
-    EXPECT_EQ(FilterCount(), 0);
-}
-
-TEST_F(MessageFilterTest, RemovingTheNewerFilterLeavesTheOlderInCharge) {
-    const WNDPROC own = CurrentProcedure();
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(window.hwnd);
-    newer.ListenTo(window.hwnd);
-
-    const WNDPROC filtered = CurrentProcedure();
-    newer.StopListening();
-    EXPECT_EQ(CurrentProcedure(), filtered);
-    EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"older.on", "window", "older.after"}));
-
-    older.StopListening();
-    EXPECT_EQ(CurrentProcedure(), own);
-}
-
-TEST_F(MessageFilterTest, RemovingTheMiddleOfThreeRepairsTheChain) {
-    RecordingFilter first("first", &log), middle("middle", &log), last("last", &log);
-    first.ListenTo(window.hwnd);
-    middle.ListenTo(window.hwnd);
-    last.ListenTo(window.hwnd);
-
-    middle.StopListening();
-    EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"last.on", "first.on", "window", "last.after", "first.after"}));
-
-    // Removing the oldest next must still leave the window reachable.
-    log.clear();
-    first.StopListening();
-    EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"last.on", "window", "last.after"}));
-    last.StopListening();
-}
-
-TEST_F(MessageFilterTest, RemovingTheOnlyFilterRestoresTheProcedureAndEmptiesTheRegistry) {
+// Filters f0, f1, ... listen in turn and leave in the row's order: the rest
+// still reach the window, and the last to leave restores its own procedure.
+TEST_F(MessageFilterTest, RemovalInAnyOrderKeepsTheChain) {
+    struct Row {
+        const char* name;
+        std::vector<int> stopOrder; // one entry per filter
+        std::vector<Log> logs;      // after each removal
+    };
+    const Row rows[] = {
+        {"only", {0}, {"window"}},
+        {"older first", {0, 1}, {"f1.on window f1.after", "window"}},
+        {"newer first", {1, 0}, {"f0.on window f0.after", "window"}},
+        {"middle, then oldest",
+         {1, 0, 2},
+         {"f2.on f0.on window f2.after f0.after", "f2.on window f2.after", "window"}},
+    };
     const WNDPROC own = CurrentProcedure();
     const int watchedBefore = VU_CMessageFilter::GetWatchedWindowCount();
-    {
-        RecordingFilter only("only", &log);
-        only.ListenTo(window.hwnd);
-        EXPECT_TRUE(only.IsHooked());
-        EXPECT_EQ(only.GetHookedWindow(), window.hwnd);
-        EXPECT_TRUE(VU_CMessageFilter::Lookup(window.hwnd, nullptr));
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::vector<std::unique_ptr<RecordingFilter>> filters;
+        for (std::size_t i = 0; i < row.stopOrder.size(); ++i) {
+            filters.push_back(std::make_unique<RecordingFilter>("f" + std::to_string(i), &log));
+            filters.back()->ListenTo(window.hwnd);
+            EXPECT_EQ(filters.back()->GetHookedWindow(), window.hwnd);
+        }
+        const WNDPROC filtered = CurrentProcedure();
+        EXPECT_NE(filtered, own);
         EXPECT_EQ(VU_CMessageFilter::GetWatchedWindowCount(), watchedBefore + 1);
-        only.StopListening();
-        EXPECT_EQ(CurrentProcedure(), own);
+        for (std::size_t k = 0; k < row.stopOrder.size(); ++k) {
+            RecordingFilter& leaving = *filters[row.stopOrder[k]];
+            leaving.StopListening();
+            EXPECT_FALSE(leaving.IsHooked());
+            const int left = static_cast<int>(row.stopOrder.size() - k - 1);
+            EXPECT_EQ(CurrentProcedure(), left == 0 ? own : filtered);
+            EXPECT_EQ(FilterCount(), left);
+            EXPECT_EQ(Probe(), 5);
+            EXPECT_EQ(log, row.logs[k]);
+        }
         EXPECT_FALSE(VU_CMessageFilter::Lookup(window.hwnd, nullptr));
         EXPECT_EQ(VU_CMessageFilter::GetWatchedWindowCount(), watchedBefore);
-        only.StopListening(); // a second stop changes nothing
+        filters[0]->StopListening(); // a second stop changes nothing
         EXPECT_EQ(CurrentProcedure(), own);
     }
-    EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"window"}));
 }
 
-TEST_F(MessageFilterTest, DestroyingAFilterStopsItListening) {
+TEST_F(MessageFilterTest, DestroyedCopiedAndIdleFiltersLeaveNoTrace) {
     const WNDPROC own = CurrentProcedure();
     {
         RecordingFilter scoped("scoped", &log);
@@ -222,24 +180,20 @@ TEST_F(MessageFilterTest, DestroyingAFilterStopsItListening) {
     }
     EXPECT_EQ(CurrentProcedure(), own);
     EXPECT_FALSE(VU_CMessageFilter::Lookup(window.hwnd, nullptr));
-}
 
-TEST_F(MessageFilterTest, StoppingACopyThatIsNotRegisteredOnlyClearsTheCopy) {
     RecordingFilter original("original", &log);
     original.ListenTo(window.hwnd);
     RecordingFilter copy(original); // same window and saved procedure, not in the array
     EXPECT_TRUE(copy.IsHooked());
-
-    copy.StopListening();
+    copy.StopListening(); // clears only the copy
     EXPECT_FALSE(copy.IsHooked());
     EXPECT_EQ(copy.GetHookedWindow(), nullptr);
     EXPECT_EQ(FilterCount(), 1);
     EXPECT_EQ(Probe(), 5);
-    EXPECT_EQ(log, (Log{"original.on", "window", "original.after"}));
+    EXPECT_EQ(log, "original.on window original.after");
     original.StopListening();
-}
 
-TEST_F(MessageFilterTest, ListeningToNoWindowLeavesTheFilterIdle) {
+    // No window, or a destroyed one, leaves a filter idle.
     RecordingFilter filter("filter", &log);
     const int watchedBefore = VU_CMessageFilter::GetWatchedWindowCount();
     filter.ListenTo(nullptr);
@@ -254,41 +208,32 @@ TEST_F(MessageFilterTest, ListeningToNoWindowLeavesTheFilterIdle) {
     filter.StopListening();
 }
 
-// ---- destruction -------------------------------------------------------------
+// ---- filters that leave while the window is destroyed ------------------------
 
 TEST(MessageFilterDestroyTest, FiltersLeavingDuringTheirOwnWmDestroy) {
-    std::vector<std::string> log;
     auto* window = new vutest::PlainWindow;
     HWND hwnd = window->hwnd;
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(hwnd);
-    newer.ListenTo(hwnd);
-    // The newer filter drops both filters when it sees WM_DESTROY, before
-    // the window's own procedure runs.
-    newer.onMessage = [&](UINT message) -> LRESULT {
+    FilterPair pair(hwnd);
+    // The newer filter drops both before the window's own procedure runs.
+    pair.newer.onMessage = [&](UINT message) -> LRESULT {
         if (message == WM_DESTROY) {
-            newer.StopListening();
-            older.StopListening();
+            pair.newer.StopListening();
+            pair.older.StopListening();
         }
         return 0;
     };
-
     delete window; // DestroyWindow
     EXPECT_FALSE(IsWindow(hwnd));
-    EXPECT_FALSE(older.IsHooked());
-    EXPECT_FALSE(newer.IsHooked());
+    EXPECT_FALSE(pair.older.IsHooked());
+    EXPECT_FALSE(pair.newer.IsHooked());
     EXPECT_FALSE(VU_CMessageFilter::Lookup(hwnd, nullptr));
 }
 
 TEST(MessageFilterDestroyTest, WindowProcedureDropsTheFiltersWhileHandlingWmDestroy) {
-    std::vector<std::string> log;
     vutest::PlainWindow window;
-    HWND hwnd = window.hwnd;
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(hwnd);
-    newer.ListenTo(hwnd);
+    FilterPair pair(window.hwnd);
     int afterDestroyCalls = 0;
-    newer.afterMessage = older.afterMessage = [&](UINT message) -> LRESULT {
+    pair.newer.afterMessage = pair.older.afterMessage = [&](UINT message) -> LRESULT {
         afterDestroyCalls += message == WM_DESTROY ? 1 : 0;
         return 0;
     };
@@ -296,43 +241,37 @@ TEST(MessageFilterDestroyTest, WindowProcedureDropsTheFiltersWhileHandlingWmDest
     window.onMessage = [&](UINT message, WPARAM, LPARAM, LRESULT*) {
         if (message == WM_DESTROY) {
             ownProcedureSawDestroy = true;
-            older.StopListening(); // the array vanishes under the dispatcher
-            newer.StopListening();
+            pair.older.StopListening(); // the array vanishes under the dispatcher
+            pair.newer.StopListening();
         }
         return false;
     };
-
-    DestroyWindow(hwnd);
+    DestroyWindow(window.hwnd);
     EXPECT_TRUE(ownProcedureSawDestroy);
     EXPECT_EQ(afterDestroyCalls, 0);
-    EXPECT_FALSE(VU_CMessageFilter::Lookup(hwnd, nullptr));
-    EXPECT_FALSE(newer.IsHooked());
+    EXPECT_FALSE(VU_CMessageFilter::Lookup(window.hwnd, nullptr));
+    EXPECT_FALSE(pair.newer.IsHooked());
 }
 
 TEST(MessageFilterDestroyTest, FilterLeavingInAfterMessageOfWmNcDestroy) {
-    std::vector<std::string> log;
     vutest::PlainWindow window;
-    HWND hwnd = window.hwnd;
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(hwnd);
-    newer.ListenTo(hwnd);
+    FilterPair pair(window.hwnd);
     int olderNcDestroyAfter = 0;
-    newer.afterMessage = [&](UINT message) -> LRESULT {
+    pair.newer.afterMessage = [&](UINT message) -> LRESULT {
         if (message == WM_NCDESTROY)
-            newer.StopListening();
+            pair.newer.StopListening();
         return 0;
     };
-    older.afterMessage = [&](UINT message) -> LRESULT {
+    pair.older.afterMessage = [&](UINT message) -> LRESULT {
         if (message == WM_NCDESTROY) {
             ++olderNcDestroyAfter;
-            older.StopListening();
+            pair.older.StopListening();
         }
         return 0;
     };
-
-    DestroyWindow(hwnd);
+    DestroyWindow(window.hwnd);
     EXPECT_EQ(olderNcDestroyAfter, 1); // still called after the newer one left
-    EXPECT_FALSE(VU_CMessageFilter::Lookup(hwnd, nullptr));
+    EXPECT_FALSE(VU_CMessageFilter::Lookup(window.hwnd, nullptr));
 }
 
 } // namespace

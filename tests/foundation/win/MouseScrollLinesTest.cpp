@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cwchar>
+#include <string>
 
 #include "foundation/win/MouseScrollLines.h"
 
@@ -101,49 +102,35 @@ TEST_F(MouseScrollLinesTest, CachedValueIsReadOnceUntilForced) {
 }
 
 TEST_F(MouseScrollLinesTest, SourcesByPlatformAndVersion) {
+    constexpr DWORD k9x = VER_PLATFORM_WIN32_WINDOWS, kWin32s = VER_PLATFORM_WIN32s;
     struct Row {
         const char* name;
-        BOOL versionOk;
-        DWORD platform;
-        DWORD major;
-        LONG openStatus;
-        LONG queryStatus;
-        const wchar_t* registryText;
-        BOOL spiOk;
+        FakeSystem system;
         UINT expected;
-        int opens, queries, closes, spis;
+        const char* calls; // registry opens, queries, closes; system calls
     };
     const Row rows[] = {
-        {"NT 4 and later ask the system", TRUE, 2, 4, 0, 0, L"12", TRUE, 7, 0, 0, 0, 1},
-        {"NT with a failing system call keeps 3", TRUE, 2, 6, 0, 0, L"12", FALSE, 3, 0, 0, 0, 1},
-        {"NT 3 reads the registry", TRUE, 2, 3, 0, 0, L"12", TRUE, 12, 1, 1, 1, 0},
-        {"registry text is decimal", TRUE, 2, 3, 0, 0, L"0x10", TRUE, 0, 1, 1, 1, 0},
-        {"registry text with trailing junk", TRUE, 2, 3, 0, 0, L"25 lines", TRUE, 25, 1, 1, 1, 0},
-        {"registry query fails", TRUE, 2, 3, 0, ERROR_FILE_NOT_FOUND, L"", TRUE, 3, 1, 1, 1, 0},
-        {"registry key missing", TRUE, 2, 3, ERROR_FILE_NOT_FOUND, 0, L"", TRUE, 3, 1, 0, 0, 0},
-        {"Windows 9x before 4 reads the registry", TRUE, 1, 3, 0, 0, L"5", TRUE, 5, 1, 1, 1, 0},
-        {"Windows 9x keeps 3", TRUE, 1, 4, 0, 0, L"12", TRUE, 3, 0, 0, 0, 0},
-        {"Win32s keeps 3", TRUE, 0, 4, 0, 0, L"12", TRUE, 3, 0, 0, 0, 0},
-        {"GetVersionEx fails", FALSE, 2, 10, 0, 0, L"12", TRUE, 3, 0, 0, 0, 0},
+        {"NT 4 and later ask the system", {.major = 4}, 7, "0001"},
+        {"NT with a failing system call keeps 3", {.major = 6, .spiOk = FALSE}, 3, "0001"},
+        {"NT 3 reads the registry", {.major = 3}, 12, "1110"},
+        {"registry text is decimal", {.major = 3, .registryText = L"0x10"}, 0, "1110"},
+        {"registry text with trailing junk", {.major = 3, .registryText = L"25 lines"}, 25, "1110"},
+        {"registry query fails", {.major = 3, .queryStatus = ERROR_FILE_NOT_FOUND}, 3, "1110"},
+        {"registry key missing", {.major = 3, .openStatus = ERROR_FILE_NOT_FOUND}, 3, "1000"},
+        {"9x 3 reads the registry", {.platform = k9x, .major = 3, .registryText = L"5"}, 5, "1110"},
+        {"Windows 9x keeps 3", {.platform = k9x, .major = 4}, 3, "0000"},
+        {"Win32s keeps 3", {.platform = kWin32s, .major = 4}, 3, "0000"},
+        {"GetVersionEx fails", {.versionOk = FALSE}, 3, "0000"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        fake = FakeSystem{};
-        fake.versionOk = row.versionOk;
-        fake.platform = row.platform;
-        fake.major = row.major;
-        fake.openStatus = row.openStatus;
-        fake.queryStatus = row.queryStatus;
-        fake.registryText = row.registryText;
-        fake.spiOk = row.spiOk;
+        fake = row.system;
         EXPECT_EQ(VuGetMouseScrollLines(TRUE), row.expected);
-        EXPECT_EQ(fake.openCalls, row.opens);
-        EXPECT_EQ(fake.queryCalls, row.queries);
-        EXPECT_EQ(fake.closeCalls, row.closes);
-        EXPECT_EQ(fake.spiCalls, row.spis);
-        if (row.queries > 0) { // room for 127 characters and a terminator
+        EXPECT_EQ(std::to_string(fake.openCalls) + std::to_string(fake.queryCalls) +
+                      std::to_string(fake.closeCalls) + std::to_string(fake.spiCalls),
+                  row.calls);
+        if (fake.queryCalls > 0) // room for 127 characters and a terminator
             EXPECT_EQ(fake.queryBufferBytes, 127u * sizeof(wchar_t));
-        }
     }
 }
 

@@ -66,14 +66,12 @@ TEST_F(PathAlias, RemoveAliasesRestoresLongNames) {
     EXPECT_EQ(Narrow(q.GetFullPath().View()), Narrow(m_file));
 }
 
-TEST_F(PathAlias, DirectoryOnlyPathIsConvertedButReportsFailure) {
-    const std::u16string alias = ShortForm(m_dir) + u"\\";
-    AF_CPath p(alias.c_str());
-    EXPECT_FALSE(p.RemoveAliases()); // no file part to look up
+TEST_F(PathAlias, DirectoryOnlyPathAndGetLongName) {
+    AF_CPath p((ShortForm(m_dir) + u"\\").c_str());
+    EXPECT_FALSE(p.RemoveAliases()); // converted, but no file part to look up
     EXPECT_EQ(Narrow(p.GetFullPath().View()), Narrow(m_dir + u"\\"));
-}
 
-TEST_F(PathAlias, GetLongNameGivesTheLastComponent) {
+    // GetLongName gives the last component.
     CString name;
     EXPECT_TRUE(AF_CPath::GetLongName(ShortForm(m_file).c_str(), &name));
     EXPECT_EQ(Narrow(name.View()), "A Long File Name.text");

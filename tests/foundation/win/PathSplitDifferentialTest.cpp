@@ -21,6 +21,7 @@ constexpr std::size_t kBuffer = 4096;
 struct Split {
     bool ok = true;
     std::u16string drive, dir, fname, ext;
+    bool operator==(const Split&) const = default;
 };
 
 // Which parts a call asks for (the runtime checks only those).
@@ -88,11 +89,6 @@ std::u16string Cat(std::initializer_list<std::u16string> parts) {
     return out;
 }
 
-bool Same(const Split& a, const Split& b) {
-    return a.ok == b.ok && a.drive == b.drive && a.dir == b.dir && a.fname == b.fname &&
-           a.ext == b.ext;
-}
-
 // Builds paths from the pieces that matter to splitting: drive prefixes
 // (valid and odd), UNC roots, separators of both kinds (single, doubled,
 // trailing), dots, spaces, non-ASCII units and names around the runtime's
@@ -125,27 +121,13 @@ private:
     int Pick(int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(m_rng); }
 
     std::u16string Prefix() {
-        static const std::u16string prefixes[] = {u"",
-                                                  u"C:",
-                                                  u"c:",
-                                                  u"z:\\",
-                                                  u"C:/",
-                                                  u"1:",
-                                                  u":",
-                                                  u"::",
-                                                  u"\\:",
-                                                  u".:",
-                                                  u"\\\\",
-                                                  u"\\\\srv\\share\\",
-                                                  u"//srv/share/",
-                                                  u"\\",
-                                                  u"/",
-                                                  u".\\",
-                                                  u"..\\",
-                                                  u"../",
-                                                  u"\\\\?\\C:\\",
-                                                  u"\u00e9:",
-                                                  u"C:\\\\"};
+        // clang-format off
+        static const std::u16string prefixes[] = {
+            u"", u"C:", u"c:", u"z:\\", u"C:/", u"1:", u":", u"::", u"\\:", u".:", u"\\\\",
+            u"\\\\srv\\share\\", u"//srv/share/", u"\\", u"/", u".\\", u"..\\", u"../",
+            u"\\\\?\\C:\\", u"\u00e9:", u"C:\\\\"
+        };
+        // clang-format on
         return prefixes[Pick(0, static_cast<int>(std::size(prefixes)) - 1)];
     }
 
@@ -205,7 +187,7 @@ TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
         withDir += expected.dir.empty() ? 0 : 1;
         withExt += expected.ext.empty() ? 0 : 1;
         partial += (mask.drive && mask.dir && mask.fname && mask.ext) ? 0 : 1;
-        if (!Same(expected, actual)) {
+        if (expected != actual) {
             if (++differences <= 20)
                 ADD_FAILURE() << "path " << Show(path) << " mask " << mask.drive << mask.dir
                               << mask.fname << mask.ext << "\n  runtime: " << Show(expected)
@@ -225,34 +207,16 @@ TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
 // Inputs chosen by hand at the edges of each rule.
 TEST(PathSplitDifferential, HandPickedEdgesSplitAsTheRuntimeDoes) {
     const std::u16string longPart(255, u'n');
+    // clang-format off
     const std::u16string cases[] = {
-        u"",
-        u"C:",
-        u"C:\\",
-        u"C:file",
-        u"\\",
-        u"/",
-        u".",
-        u"..",
-        u"...",
-        u".ext",
-        u"name.",
-        u"a.b.c",
-        u"dir.d\\name",
-        u"\\\\srv\\share",
-        u"\\\\srv\\share\\",
-        u"\\\\srv\\share\\d\\f.txt",
-        u"C:/a/b/f.txt",
-        u"C:\\a\\\\b\\\\",
-        u"  C:\\Work\\Project.ACD  ",
-        u"a:b:c",
-        Cat({u"\\", longPart.substr(0, 254), u"\\f"}),
-        Cat({u"\\", longPart, u"\\f"}),
-        longPart,
-        Cat({longPart, u"n"}),
-        Cat({u"f.", longPart.substr(0, 254)}),
-        Cat({u"f.", longPart}),
+        u"", u"C:", u"C:\\", u"C:file", u"\\", u"/", u".", u"..", u"...", u".ext", u"name.",
+        u"a.b.c", u"dir.d\\name", u"\\\\srv\\share", u"\\\\srv\\share\\",
+        u"\\\\srv\\share\\d\\f.txt", u"C:/a/b/f.txt", u"C:\\a\\\\b\\\\",
+        u"  C:\\Work\\Project.ACD  ", u"a:b:c", Cat({u"\\", longPart.substr(0, 254), u"\\f"}),
+        Cat({u"\\", longPart, u"\\f"}), longPart, Cat({longPart, u"n"}),
+        Cat({u"f.", longPart.substr(0, 254)}), Cat({u"f.", longPart})
     };
+    // clang-format on
     for (const auto& path : cases) {
         SCOPED_TRACE(Show(path));
         const Mask all{true, true, true, true};
