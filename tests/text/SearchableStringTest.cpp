@@ -71,20 +71,12 @@ TEST(SearchableStringConstruction, CopyTakesDelimitersAndPattern) {
 // op: F Find, N FindNoCase, R ReverseFind (text forms); f Find, n FindNoCase,
 //     q ReverseFindNoCase with the needle's first character.
 int Search(S& s, char op, const char16_t* find, int start, BOOL wholeWord) {
-    switch (op) {
-    case 'F':
-        return s.Find(find, start, wholeWord);
-    case 'N':
-        return s.FindNoCase(find, start, wholeWord);
-    case 'R':
-        return s.ReverseFind(find, start, wholeWord);
-    case 'f':
-        return s.Find(find[0], start, wholeWord);
-    case 'n':
-        return s.FindNoCase(find[0], start, wholeWord);
-    default:
-        return s.ReverseFindNoCase(find[0], start, wholeWord);
-    }
+    return op == 'F'   ? s.Find(find, start, wholeWord)
+           : op == 'N' ? s.FindNoCase(find, start, wholeWord)
+           : op == 'R' ? s.ReverseFind(find, start, wholeWord)
+           : op == 'f' ? s.Find(find[0], start, wholeWord)
+           : op == 'n' ? s.FindNoCase(find[0], start, wholeWord)
+                       : s.ReverseFindNoCase(find[0], start, wholeWord);
 }
 
 TEST(SearchableStringFind, Rules) {
