@@ -20,11 +20,10 @@ class TemplateBuilder {
 public:
     TemplateBuilder() {
         m_words.reserve(256);
-        Add<DWORD>(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_SETFONT);
-        Add<DWORD>(0);
+        Add<DWORD>(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_SETFONT, 0);
         Add<WORD>(2); // items
-        Add<short>(10), Add<short>(10), Add<short>(150), Add<short>(100);
-        Add<WORD>(0), Add<WORD>(0); // no menu, default class
+        Add<short>(10, 10, 150, 100);
+        Add<WORD>(0, 0); // no menu, default class
         AddText(L"Template dialog");
         Add<WORD>(8);
         AddText(L"MS Shell Dlg");
@@ -35,12 +34,13 @@ public:
     const DLGTEMPLATE* Get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_words.data()); }
 
 private:
-    template <class T> void Add(T value) {
+    template <class T, class... More> void Add(T value, More... more) {
         static_assert(sizeof(T) % 2 == 0);
         WORD words[sizeof(T) / 2];
         std::memcpy(words, &value, sizeof(T));
-        for (WORD word : words)
-            m_words.push_back(word);
+        m_words.insert(m_words.end(), std::begin(words), std::end(words));
+        if constexpr (sizeof...(More) > 0)
+            Add<T>(more...);
     }
     void AddText(const wchar_t* text) {
         do
@@ -51,11 +51,9 @@ private:
                  const wchar_t* text) {
         if (m_words.size() % 2 != 0)
             m_words.push_back(0); // items start on a DWORD boundary
-        Add<DWORD>(style);
-        Add<DWORD>(0);
-        Add<short>(x), Add<short>(y), Add<short>(cx), Add<short>(cy);
-        Add<WORD>(id);
-        Add<WORD>(0xFFFF), Add<WORD>(atom);
+        Add<DWORD>(style, 0);
+        Add<short>(x, y, cx, cy);
+        Add<WORD>(id, 0xFFFF, atom);
         AddText(text);
         Add<WORD>(0);
     }
@@ -107,42 +105,34 @@ public:
     std::vector<int> drawnBeforeClose;
 };
 
-TEST(DialogTest, ModalFromMemoryTemplateClosedWithOk) {
+TEST(DialogTest, ModalFromMemoryTemplateEndsWithTheRequestedResult) {
     TemplateBuilder tmpl;
-    TestDialog dlg;
-    ASSERT_TRUE(dlg.InitModalIndirect(tmpl.Get()));
-    EXPECT_EQ(dlg.DoModal(), IDOK);
-    EXPECT_EQ(dlg.initCalls, 1);
-    EXPECT_EQ(dlg.okCalls, 1);
-    EXPECT_TRUE(dlg.sawOwnHandle);
-    EXPECT_EQ(dlg.m_hWnd, nullptr);
-    EXPECT_EQ(dlg.list.m_hWnd, nullptr); // its window went with the dialog
-}
-
-TEST(DialogTest, CancelAndCustomResults) {
-    TemplateBuilder tmpl;
-    {
+    struct Row {
+        const char* name;
+        UINT message;
+        WPARAM wParam;
+        INT_PTR result;
+        int okCalls;
+        std::vector<int> drawn; // rows drawn through the dialog before closing
+    } rows[] = {
+        {"OK", WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), IDOK, 1, {}},
+        {"Cancel", WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), IDCANCEL, 0, {}},
+        {"close box", WM_CLOSE, 0, IDCANCEL, 0, {}}, // the dialog manager makes it IDCANCEL
+        {"EndDialog", WM_APP + 20, 1234, 1234, 0, {0, 1}},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
         TestDialog dlg;
-        dlg.closeWParam = MAKEWPARAM(IDCANCEL, BN_CLICKED);
-        dlg.InitModalIndirect(tmpl.Get());
-        EXPECT_EQ(dlg.DoModal(), IDCANCEL);
-        EXPECT_EQ(dlg.okCalls, 0);
-    }
-    {
-        TestDialog dlg;
-        dlg.closeMessage = WM_CLOSE; // the dialog manager turns it into IDCANCEL
-        dlg.closeWParam = 0;
-        dlg.InitModalIndirect(tmpl.Get());
-        EXPECT_EQ(dlg.DoModal(), IDCANCEL);
-    }
-    {
-        TestDialog dlg;
-        dlg.closeMessage = WM_APP + 20;
-        dlg.closeWParam = 1234;
-        dlg.InitModalIndirect(tmpl.Get());
-        EXPECT_EQ(dlg.DoModal(), 1234);
-        // The list box subclassed in OnInitDialog was drawn through the dialog.
-        EXPECT_EQ(dlg.drawnBeforeClose, (std::vector<int>{0, 1}));
+        dlg.closeMessage = r.message;
+        dlg.closeWParam = r.wParam;
+        ASSERT_TRUE(dlg.InitModalIndirect(tmpl.Get()));
+        EXPECT_EQ(dlg.DoModal(), r.result);
+        EXPECT_EQ(dlg.initCalls, 1);
+        EXPECT_EQ(dlg.okCalls, r.okCalls);
+        EXPECT_TRUE(dlg.sawOwnHandle);
+        EXPECT_EQ(dlg.drawnBeforeClose, r.drawn);
+        EXPECT_EQ(dlg.m_hWnd, nullptr);
+        EXPECT_EQ(dlg.list.m_hWnd, nullptr); // its window went with the dialog
     }
 }
 
