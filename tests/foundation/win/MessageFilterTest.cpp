@@ -46,18 +46,16 @@ private:
     Log* m_log;
 };
 
-// Two filters on one window, the newer asked first.
+// Two filters on one window, the newer asked first. A filter stops
+// listening when it is destroyed.
 struct FilterPair {
-    explicit FilterPair(HWND hwnd) {
+    explicit FilterPair(HWND hwnd, Log* log = nullptr)
+        : older("older", log ? log : &own), newer("newer", log ? log : &own) {
         older.ListenTo(hwnd);
         newer.ListenTo(hwnd);
     }
-    ~FilterPair() {
-        newer.StopListening();
-        older.StopListening();
-    }
-    Log log;
-    RecordingFilter older{"older", &log}, newer{"newer", &log};
+    Log own;
+    RecordingFilter older, newer;
 };
 
 class MessageFilterTest : public ::testing::Test {
@@ -109,21 +107,17 @@ TEST_F(MessageFilterTest, OrderAndResults) {
         {"newer AfterMessage stops the walk", 0, 0, 0, 9, 0, 1, stopsAfterNewer},
         {"negative AfterMessage", -5, 0, 0, -1, 0, 1, stopsAfterNewer},
     };
-    RecordingFilter older("older", &log), newer("newer", &log);
-    older.ListenTo(window.hwnd);
-    newer.ListenTo(window.hwnd);
+    FilterPair pair(window.hwnd, &log);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         windowResult = row.windowResult;
-        newer.onResult = row.newerOn;
-        older.onResult = row.olderOn;
-        newer.afterResult = row.newerAfter;
-        older.afterResult = row.olderAfter;
+        pair.newer.onResult = row.newerOn;
+        pair.older.onResult = row.olderOn;
+        pair.newer.afterResult = row.newerAfter;
+        pair.older.afterResult = row.olderAfter;
         EXPECT_EQ(Probe(), row.expected);
         EXPECT_EQ(log, row.log);
     }
-    newer.StopListening();
-    older.StopListening();
 }
 
 // Filters f0, f1, ... listen in turn and leave in the row's order: the rest
@@ -148,7 +142,8 @@ TEST_F(MessageFilterTest, RemovalInAnyOrderKeepsTheChain) {
         SCOPED_TRACE(row.name);
         std::vector<std::unique_ptr<RecordingFilter>> filters;
         for (std::size_t i = 0; i < row.stopOrder.size(); ++i) {
-            filters.push_back(std::make_unique<RecordingFilter>("f" + std::to_string(i), &log));
+            filters.push_back(std::make_unique<RecordingFilter>(
+                std::string{'f', static_cast<char>('0' + i)}, &log));
             filters.back()->ListenTo(window.hwnd);
             EXPECT_EQ(filters.back()->GetHookedWindow(), window.hwnd);
         }
@@ -191,7 +186,6 @@ TEST_F(MessageFilterTest, DestroyedCopiedAndIdleFiltersLeaveNoTrace) {
     EXPECT_EQ(FilterCount(), 1);
     EXPECT_EQ(Probe(), 5);
     EXPECT_EQ(log, "original.on window original.after");
-    original.StopListening();
 
     // No window, or a destroyed one, leaves a filter idle.
     RecordingFilter filter("filter", &log);
@@ -205,7 +199,6 @@ TEST_F(MessageFilterTest, DestroyedCopiedAndIdleFiltersLeaveNoTrace) {
     EXPECT_FALSE(filter.IsHooked());
     EXPECT_EQ(filter.GetHookedWindow(), nullptr);
     EXPECT_EQ(VU_CMessageFilter::GetWatchedWindowCount(), watchedBefore);
-    filter.StopListening();
 }
 
 // ---- filters that leave while the window is destroyed ------------------------
