@@ -476,26 +476,16 @@ BOOL VU_CTreeListBox::IsVerticalScrollbarVisible() const {
 // ---- Selection --------------------------------------------------------------------------
 
 int VU_CTreeListBox::SelectItemFromItemData(unsigned long data, bool notify) {
-    CTreeNode* node = FindNodeFromItemData(data);
-    if (node == nullptr)
-        return -1;
-    int row = GetListboxIndex(node);
-    if (row < 0) {
-        ExpandThisAndParent(node);
-        row = GetListboxIndex(node);
-    }
-    if (row < 0)
-        return -1;
-    SetSelectedRow(row);
-    if (notify)
-        NotifySelChange();
-    return row;
+    return SelectNode(FindNodeFromItemData(data), notify);
 }
 
 int VU_CTreeListBox::SelectItemFromString(const CString& text, bool notify) {
     TextFinder finder(text);
     m_roots.Accept(&finder);
-    CTreeNode* node = finder.Found();
+    return SelectNode(finder.Found(), notify);
+}
+
+int VU_CTreeListBox::SelectNode(CTreeNode* node, bool notify) {
     if (node == nullptr)
         return -1;
     int row = GetListboxIndex(node);

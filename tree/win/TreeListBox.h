@@ -192,6 +192,8 @@ protected:
     void DeleteRow(int row);
     void SetSelectedRow(int row);
     void NotifySelChange();
+    // Shows the node (expanding its ancestors), selects its row; -1 for null.
+    int SelectNode(CTreeNode* node, bool notify);
     bool IsRowSelectable(int row) const;
     bool IsOnScrollBar(const CPoint& point) const;
     int RowFromPoint(const CPoint& point) const;
