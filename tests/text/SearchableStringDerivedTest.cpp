@@ -46,8 +46,9 @@ public:
     std::vector<std::string> calls;
 
     S& ReplaceAt(int index, int count, const char16_t* text) override {
-        replacements += "(" + std::to_string(index) + "," + std::to_string(count) + "," +
-                        Show(text ? text : u"") + ")";
+        replacements += '(';
+        replacements += std::to_string(index) + ',' + std::to_string(count) + ',';
+        replacements += Show(text ? text : u"") + ')';
         return S::ReplaceAt(index, count, text);
     }
     S& InsertAt(int index, const char16_t* text) override {

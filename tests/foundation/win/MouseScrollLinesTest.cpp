@@ -129,8 +129,9 @@ TEST_F(MouseScrollLinesTest, SourcesByPlatformAndVersion) {
         EXPECT_EQ(std::to_string(fake.openCalls) + std::to_string(fake.queryCalls) +
                       std::to_string(fake.closeCalls) + std::to_string(fake.spiCalls),
                   row.calls);
-        if (fake.queryCalls > 0) // room for 127 characters and a terminator
+        if (fake.queryCalls > 0) { // room for 127 characters and a terminator
             EXPECT_EQ(fake.queryBufferBytes, 127u * sizeof(wchar_t));
+        }
     }
 }
 
