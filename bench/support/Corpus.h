@@ -5,6 +5,8 @@
 // (about 18 MB of prose with some code). Files are read in name order,
 // decoded from UTF-8 and widened to UTF-16, so every run sees the same text.
 
+#include "foundation/Utf8.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -19,38 +21,7 @@ namespace vu::bench {
 
 // UTF-8 to UTF-16; malformed bytes become U+FFFD.
 inline std::u16string DecodeUtf8(std::string_view in) {
-    std::u16string out;
-    out.reserve(in.size());
-    for (size_t i = 0; i < in.size();) {
-        const unsigned char b = static_cast<unsigned char>(in[i]);
-        int extra = b < 0x80 ? 0 : (b >> 5) == 6 ? 1 : (b >> 4) == 14 ? 2 : (b >> 3) == 30 ? 3 : -1;
-        if (extra < 0 || i + size_t(extra) >= in.size()) {
-            out += char16_t(0xFFFD);
-            ++i;
-            continue;
-        }
-        char32_t c = extra == 0 ? b : b & (0x3F >> extra);
-        bool ok = true;
-        for (int k = 1; k <= extra; ++k) {
-            const unsigned char t = static_cast<unsigned char>(in[i + size_t(k)]);
-            ok = ok && (t >> 6) == 2;
-            c = (c << 6) | (t & 0x3F);
-        }
-        if (!ok) {
-            out += char16_t(0xFFFD);
-            ++i;
-            continue;
-        }
-        i += size_t(extra) + 1;
-        if (c >= 0x10000) {
-            c -= 0x10000;
-            out += char16_t(0xD800 + (c >> 10));
-            out += char16_t(0xDC00 + (c & 0x3FF));
-        } else {
-            out += char16_t(c);
-        }
-    }
-    return out;
+    return vu::Utf8ToUtf16(in);
 }
 
 // The pod files of the newest Perl documentation directory, in name order.

@@ -1,6 +1,7 @@
 // Documents shaped like the tree controls' dumps (elements and element
 // strings only), checked by a real parser: libxml2 must find them well formed
 // and give back every name and text as written.
+#include "foundation/Utf8.h"
 #include "text/XmlWriter.h"
 
 #include <gtest/gtest.h>
@@ -19,21 +20,6 @@ struct Element {
     std::u16string text; // leaves only
     std::vector<Element> children;
 };
-
-std::string ToUtf8(std::u16string_view s) {
-    std::string out;
-    for (size_t i = 0; i < s.size(); ++i) {
-        char32_t c = s[i];
-        if (c >= 0xD800 && c < 0xDC00 && i + 1 < s.size())
-            c = 0x10000 + ((c - 0xD800) << 10) + (s[++i] - 0xDC00);
-        const int tail = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-        // Lead byte: 0xxxxxxx, 110xxxxx, 1110xxxx or 11110xxx, then 10xxxxxx each.
-        out += static_cast<char>((tail ? 0xFF00 >> (tail + 1) & 0xFF : 0) | c >> 6 * tail);
-        for (int k = tail - 1; k >= 0; --k)
-            out += static_cast<char>(0x80 | (c >> 6 * k & 0x3F));
-    }
-    return out;
-}
 
 // Every escapable character, tab and line feed, and text beyond ASCII
 // (Latin, CJK, a surrogate pair). Carriage returns are left out: a parser
@@ -80,10 +66,10 @@ void Write(VU_CXmlWriter& w, const Element& e) {
 void ExpectSame(const Element& expected, xmlNode* node) {
     ASSERT_NE(node, nullptr);
     ASSERT_EQ(node->type, XML_ELEMENT_NODE);
-    EXPECT_EQ(reinterpret_cast<const char*>(node->name), ToUtf8(expected.name));
+    EXPECT_EQ(reinterpret_cast<const char*>(node->name), vu::Utf16ToUtf8(expected.name));
     if (expected.children.empty()) {
         std::unique_ptr<xmlChar, decltype(xmlFree)> text(xmlNodeGetContent(node), xmlFree);
-        EXPECT_EQ(reinterpret_cast<const char*>(text.get()), ToUtf8(expected.text));
+        EXPECT_EQ(reinterpret_cast<const char*>(text.get()), vu::Utf16ToUtf8(expected.text));
         return;
     }
     xmlNode* child = node->children;
@@ -107,7 +93,7 @@ TEST(XmlWriterLibxml2, TreeDumpsParseAndGiveBackTheirTexts) {
         if (round % 2)
             w.WriteXMLDeclaration();
         Write(w, root);
-        const std::string utf8 = ToUtf8(w.GetOutput());
+        const std::string utf8 = vu::Utf16ToUtf8(w.GetOutput());
 
         std::vector<std::string> errors;
         xmlSetStructuredErrorFunc(&errors, CollectError);
