@@ -141,7 +141,7 @@ VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
     m_emit = m_dummy;
     m_parse = pattern;
     int flags = 0;
-    if (!reg(false, flags) || m_programSize > kMaxProgramUnits) {
+    if (!ParseExpression(false, flags) || m_programSize > kMaxProgramUnits) {
         m_programSize = previousSize;
         return nullptr;
     }
@@ -159,7 +159,7 @@ VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
     m_emitting = 1;
     m_emit = program;
     m_parse = pattern;
-    if (!reg(false, flags) || uint64_t(m_emit - program) != m_programSize) {
+    if (!ParseExpression(false, flags) || uint64_t(m_emit - program) != m_programSize) {
         m_program = old; // cannot happen: both passes parse the same text
         delete[] program;
         m_programSize = previousSize;
@@ -175,9 +175,9 @@ VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
     return this;
 }
 
-// reg: a whole expression (paren false) or a group body; alternatives are
+// ParseExpression: a whole expression (paren false) or a group body; alternatives are
 // chained OpAlternative nodes whose contents all end in the closing node.
-char16_t* VU_CRegExpression::reg(bool paren, int& flags) {
+char16_t* VU_CRegExpression::ParseExpression(bool paren, int& flags) {
     flags = HasWidth; // until a branch proves otherwise
     int groupNumber = 0;
     char16_t* ret = nullptr;
@@ -185,15 +185,15 @@ char16_t* VU_CRegExpression::reg(bool paren, int& flags) {
         if (m_groupCount >= kGroupCount)
             return nullptr;
         groupNumber = m_groupCount++;
-        ret = regnode(char16_t(OpGroupOpen + groupNumber));
+        ret = EmitNode(char16_t(OpGroupOpen + groupNumber));
     }
 
     int branchFlags = 0;
-    char16_t* branch = regbranch(branchFlags);
+    char16_t* branch = ParseBranch(branchFlags);
     if (!branch)
         return nullptr;
     if (ret)
-        regtail(ret, branch);
+        LinkTail(ret, branch);
     else
         ret = branch;
     if (!(branchFlags & HasWidth))
@@ -202,20 +202,20 @@ char16_t* VU_CRegExpression::reg(bool paren, int& flags) {
     char16_t* last = branch; // the chain's last alternative, linked in O(1)
     while (*m_parse == u'|') {
         ++m_parse;
-        branch = regbranch(branchFlags);
+        branch = ParseBranch(branchFlags);
         if (!branch)
             return nullptr;
-        regtail(last, branch);
+        LinkTail(last, branch);
         last = branch;
         if (!(branchFlags & HasWidth))
             flags &= ~HasWidth;
         flags |= branchFlags & StartsWithRepeat;
     }
 
-    char16_t* ender = regnode(paren ? char16_t(OpGroupClose + groupNumber) : char16_t(OpEnd));
-    regtail(ret, ender);
-    for (char16_t* p = ret; p; p = regnext(p))
-        regoptail(p, ender);
+    char16_t* ender = EmitNode(paren ? char16_t(OpGroupClose + groupNumber) : char16_t(OpEnd));
+    LinkTail(ret, ender);
+    for (char16_t* p = ret; p; p = NextNode(p))
+        LinkOperandTail(p, ender);
 
     if (paren) {
         if (*m_parse != u')')
@@ -227,32 +227,32 @@ char16_t* VU_CRegExpression::reg(bool paren, int& flags) {
     return ret;
 }
 
-// regbranch: one alternative, a sequence of pieces.
-char16_t* VU_CRegExpression::regbranch(int& flags) {
+// ParseBranch: one alternative, a sequence of pieces.
+char16_t* VU_CRegExpression::ParseBranch(int& flags) {
     flags = 0;
-    char16_t* ret = regnode(OpAlternative);
+    char16_t* ret = EmitNode(OpAlternative);
     char16_t* chain = nullptr;
     while (*m_parse && *m_parse != u'|' && *m_parse != u')') {
         int pieceFlags = 0;
-        char16_t* latest = regpiece(pieceFlags);
+        char16_t* latest = ParsePiece(pieceFlags);
         if (!latest)
             return nullptr;
         flags |= pieceFlags & HasWidth;
         if (!chain)
             flags |= pieceFlags & StartsWithRepeat;
         else
-            regtail(chain, latest);
+            LinkTail(chain, latest);
         chain = latest;
     }
     if (!chain)
-        regnode(OpEmpty);
+        EmitNode(OpEmpty);
     return ret;
 }
 
-// regpiece: an atom with an optional *, + or ?.
-char16_t* VU_CRegExpression::regpiece(int& flags) {
+// ParsePiece: an atom with an optional *, + or ?.
+char16_t* VU_CRegExpression::ParsePiece(int& flags) {
     int atomFlags = 0;
-    char16_t* ret = regatom(atomFlags);
+    char16_t* ret = ParseAtom(atomFlags);
     if (!ret)
         return nullptr;
     const char16_t op = *m_parse;
@@ -265,30 +265,30 @@ char16_t* VU_CRegExpression::regpiece(int& flags) {
     flags = op == u'*' ? StartsWithRepeat : op == u'+' ? (HasWidth | StartsWithRepeat) : 0;
 
     if (op == u'*' && (atomFlags & Simple)) {
-        reginsert(OpStar, ret);
+        InsertNode(OpStar, ret);
     } else if (op == u'*') {
         // x* as (x<loop>|<empty>)
-        reginsert(OpAlternative, ret);
-        regoptail(ret, regnode(OpLoopBack));
-        regoptail(ret, ret);
-        regtail(ret, regnode(OpAlternative));
-        regtail(ret, regnode(OpEmpty));
+        InsertNode(OpAlternative, ret);
+        LinkOperandTail(ret, EmitNode(OpLoopBack));
+        LinkOperandTail(ret, ret);
+        LinkTail(ret, EmitNode(OpAlternative));
+        LinkTail(ret, EmitNode(OpEmpty));
     } else if (op == u'+' && (atomFlags & Simple)) {
-        reginsert(OpPlus, ret);
+        InsertNode(OpPlus, ret);
     } else if (op == u'+') {
         // x+ as x(<loop>|<empty>)
-        char16_t* next = regnode(OpAlternative);
-        regtail(ret, next);
-        regtail(regnode(OpLoopBack), ret);
-        regtail(next, regnode(OpAlternative));
-        regtail(ret, regnode(OpEmpty));
+        char16_t* next = EmitNode(OpAlternative);
+        LinkTail(ret, next);
+        LinkTail(EmitNode(OpLoopBack), ret);
+        LinkTail(next, EmitNode(OpAlternative));
+        LinkTail(ret, EmitNode(OpEmpty));
     } else {
         // x? as (x|<empty>)
-        reginsert(OpAlternative, ret);
-        regtail(ret, regnode(OpAlternative));
-        char16_t* next = regnode(OpEmpty);
-        regtail(ret, next);
-        regoptail(ret, next);
+        InsertNode(OpAlternative, ret);
+        LinkTail(ret, EmitNode(OpAlternative));
+        char16_t* next = EmitNode(OpEmpty);
+        LinkTail(ret, next);
+        LinkOperandTail(ret, next);
     }
     ++m_parse;
     if (IsRepeat(*m_parse))
@@ -296,28 +296,28 @@ char16_t* VU_CRegExpression::regpiece(int& flags) {
     return ret;
 }
 
-// regatom: the smallest unit of a pattern.
-char16_t* VU_CRegExpression::regatom(int& flags) {
+// ParseAtom: the smallest unit of a pattern.
+char16_t* VU_CRegExpression::ParseAtom(int& flags) {
     flags = 0;
     char16_t* ret = nullptr;
     switch (*m_parse++) {
     case u'^':
-        ret = regnode(OpAtStart);
+        ret = EmitNode(OpAtStart);
         break;
     case u'$':
-        ret = regnode(OpAtEnd);
+        ret = EmitNode(OpAtEnd);
         break;
     case u'.':
-        ret = regnode(OpAnyChar);
+        ret = EmitNode(OpAnyChar);
         flags |= HasWidth | Simple;
         break;
     case u'[':
-        ret = regset();
+        ret = ParseSet();
         flags |= HasWidth | Simple;
         break;
     case u'(': {
         int groupFlags = 0;
-        ret = reg(true, groupFlags);
+        ret = ParseExpression(true, groupFlags);
         flags |= groupFlags & (HasWidth | StartsWithRepeat);
         break;
     }
@@ -331,9 +331,9 @@ char16_t* VU_CRegExpression::regatom(int& flags) {
     case u'\\':
         if (*m_parse == 0)
             return nullptr;
-        ret = regnode(OpLiteral);
-        regc(*m_parse++);
-        regc(0);
+        ret = EmitNode(OpLiteral);
+        EmitUnit(*m_parse++);
+        EmitUnit(0);
         flags |= HasWidth | Simple;
         break;
     default: {
@@ -347,36 +347,36 @@ char16_t* VU_CRegExpression::regatom(int& flags) {
         flags |= HasWidth;
         if (length == 1)
             flags |= Simple;
-        ret = regnode(OpLiteral);
+        ret = EmitNode(OpLiteral);
         while (length-- > 0)
-            regc(*m_parse++);
-        regc(0);
+            EmitUnit(*m_parse++);
+        EmitUnit(0);
         break;
     }
     }
     return ret;
 }
 
-// regset: the members of [...] (m_parse is past the '['), expanded one unit
+// ParseSet: the members of [...] (m_parse is past the '['), expanded one unit
 // each.
-char16_t* VU_CRegExpression::regset() {
+char16_t* VU_CRegExpression::ParseSet() {
     char16_t* ret;
     if (*m_parse == u'^') {
-        ret = regnode(OpNotInSet);
+        ret = EmitNode(OpNotInSet);
         ++m_parse;
     } else {
-        ret = regnode(OpInSet);
+        ret = EmitNode(OpInSet);
     }
     if (*m_parse == u']' || *m_parse == u'-')
-        regc(*m_parse++);
+        EmitUnit(*m_parse++);
     while (*m_parse && *m_parse != u']') {
         if (*m_parse != u'-') {
-            regc(*m_parse++);
+            EmitUnit(*m_parse++);
             continue;
         }
         ++m_parse;
         if (*m_parse == u']' || *m_parse == 0) {
-            regc(u'-');
+            EmitUnit(u'-');
             continue;
         }
         // The lower end, the unit before '-', is already in the list.
@@ -388,17 +388,17 @@ char16_t* VU_CRegExpression::regset() {
             m_programSize += upper + 1 - lower;
         else
             for (uint32_t c = lower; c <= upper; ++c)
-                regc(char16_t(c));
+                EmitUnit(char16_t(c));
         ++m_parse;
     }
-    regc(0);
+    EmitUnit(0);
     if (*m_parse != u']')
         return nullptr;
     ++m_parse;
     return ret;
 }
 
-char16_t* VU_CRegExpression::regnode(char16_t op) {
+char16_t* VU_CRegExpression::EmitNode(char16_t op) {
     if (!m_emitting) {
         m_programSize += kNodeUnits;
         return m_dummy;
@@ -410,7 +410,7 @@ char16_t* VU_CRegExpression::regnode(char16_t op) {
     return p;
 }
 
-void VU_CRegExpression::regc(char16_t ch) {
+void VU_CRegExpression::EmitUnit(char16_t ch) {
     if (!m_emitting) {
         ++m_programSize;
         return;
@@ -418,7 +418,7 @@ void VU_CRegExpression::regc(char16_t ch) {
     *m_emit++ = ch;
 }
 
-void VU_CRegExpression::reginsert(char16_t op, char16_t* operand) {
+void VU_CRegExpression::InsertNode(char16_t op, char16_t* operand) {
     if (!m_emitting) {
         m_programSize += kNodeUnits;
         return;
@@ -429,33 +429,33 @@ void VU_CRegExpression::reginsert(char16_t op, char16_t* operand) {
     operand[1] = operand[2] = 0;
 }
 
-void VU_CRegExpression::regtail(char16_t* p, const char16_t* target) {
+void VU_CRegExpression::LinkTail(char16_t* p, const char16_t* target) {
     if (!m_emitting)
         return;
     char16_t* scan = p;
-    for (char16_t* next; (next = regnext(scan)) != nullptr;)
+    for (char16_t* next; (next = NextNode(scan)) != nullptr;)
         scan = next;
     const uint32_t offset =
-        OP(scan) == OpLoopBack ? uint32_t(scan - target) : uint32_t(target - scan);
+        OpOf(scan) == OpLoopBack ? uint32_t(scan - target) : uint32_t(target - scan);
     scan[1] = char16_t(offset & 0xFFFF);
     scan[2] = char16_t(offset >> 16);
 }
 
-void VU_CRegExpression::regoptail(char16_t* p, const char16_t* target) {
-    if (!m_emitting || !p || OP(p) != OpAlternative)
+void VU_CRegExpression::LinkOperandTail(char16_t* p, const char16_t* target) {
+    if (!m_emitting || !p || OpOf(p) != OpAlternative)
         return;
-    regtail(OPERAND(p), target);
+    LinkTail(OperandOf(p), target);
 }
 
-const char16_t* VU_CRegExpression::regnext(const char16_t* p) {
+const char16_t* VU_CRegExpression::NextNode(const char16_t* p) {
     const uint32_t link = ReadLink(p);
     if (link == 0)
         return nullptr;
-    return OP(p) == OpLoopBack ? p - link : p + link;
+    return OpOf(p) == OpLoopBack ? p - link : p + link;
 }
 
-char16_t* VU_CRegExpression::regnext(char16_t* p) {
-    return const_cast<char16_t*>(regnext(static_cast<const char16_t*>(p)));
+char16_t* VU_CRegExpression::NextNode(char16_t* p) {
+    return const_cast<char16_t*>(NextNode(static_cast<const char16_t*>(p)));
 }
 
 // ---- Compile-time analysis ---------------------------------------------
@@ -470,29 +470,29 @@ void VU_CRegExpression::ComputeHints(int flags) {
     m_leadingRepeat = false;
 
     const char16_t* scan = m_program; // the first top-level alternative
-    const char16_t* next = regnext(scan);
-    if (!next || OP(next) != OpEnd)
+    const char16_t* next = NextNode(scan);
+    if (!next || OpOf(next) != OpEnd)
         return; // several top-level alternatives
-    scan = OPERAND(scan);
-    if (OP(scan) == OpLiteral) {
-        m_firstChar = *OPERAND(scan);
-        m_firstLiteral = OPERAND(scan);
+    scan = OperandOf(scan);
+    if (OpOf(scan) == OpLiteral) {
+        m_firstChar = *OperandOf(scan);
+        m_firstLiteral = OperandOf(scan);
         m_firstLiteralLength = uint32_t(OperandLength(m_firstLiteral));
-    } else if (OP(scan) == OpAtStart) {
+    } else if (OpOf(scan) == OpAtStart) {
         m_anchored = 1;
     }
-    m_leadingRepeat = OP(scan) == OpStar || OP(scan) == OpPlus;
+    m_leadingRepeat = OpOf(scan) == OpStar || OpOf(scan) == OpPlus;
 
     if (flags & StartsWithRepeat) {
         // The longest literal of the top-level chain; a later one wins a tie.
         const char16_t* longest = nullptr;
         size_t length = 0;
-        for (; scan; scan = regnext(scan)) {
-            if (OP(scan) != OpLiteral)
+        for (; scan; scan = NextNode(scan)) {
+            if (OpOf(scan) != OpLiteral)
                 continue;
-            const size_t n = OperandLength(OPERAND(scan));
+            const size_t n = OperandLength(OperandOf(scan));
             if (n >= length) {
-                longest = OPERAND(scan);
+                longest = OperandOf(scan);
                 length = n;
             }
         }
@@ -617,13 +617,13 @@ bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char
         return false;
     auto addUnit = [&units](char16_t c) { units.push_back(c); };
     auto addRepeated = [&](const char16_t* item) {
-        if (OP(item) == OpLiteral) {
-            addUnit(*OPERAND(item));
+        if (OpOf(item) == OpLiteral) {
+            addUnit(*OperandOf(item));
             return true;
         }
-        if (OP(item) != OpInSet)
+        if (OpOf(item) != OpInSet)
             return false;
-        for (const char16_t* m = OPERAND(item); *m; ++m)
+        for (const char16_t* m = OperandOf(item); *m; ++m)
             addUnit(*m);
         return true;
     };
@@ -634,7 +634,7 @@ bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char
         if (seen)
             return true; // already accounted for
         seen = 1;
-        const char16_t op = OP(node);
+        const char16_t op = OpOf(node);
         switch (op) {
         case OpEnd:
         case OpAtEnd:
@@ -645,22 +645,23 @@ bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char
         case OpLiteral:
             return addRepeated(node);
         case OpStar:
-            if (!addRepeated(OPERAND(node)))
+            if (!addRepeated(OperandOf(node)))
                 return false;
-            node = regnext(node);
+            node = NextNode(node);
             continue;
         case OpPlus:
-            return addRepeated(OPERAND(node));
+            return addRepeated(OperandOf(node));
         case OpAlternative: {
-            const char16_t* next = regnext(node);
-            if (!next || OP(next) != OpAlternative) {
-                node = OPERAND(node);
+            const char16_t* next = NextNode(node);
+            if (!next || OpOf(next) != OpAlternative) {
+                node = OperandOf(node);
                 continue;
             }
-            for (const char16_t* alt = node; alt && OP(alt) == OpAlternative; alt = regnext(alt)) {
+            for (const char16_t* alt = node; alt && OpOf(alt) == OpAlternative;
+                 alt = NextNode(alt)) {
                 if (alt != node)
                     visited[size_t(alt - m_program)] = 1;
-                if (!CollectStartChars(OPERAND(alt), units, visited, depth + 1))
+                if (!CollectStartChars(OperandOf(alt), units, visited, depth + 1))
                     return false;
             }
             return true;
@@ -669,7 +670,7 @@ bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char
             if ((op > OpGroupOpen && op < OpGroupOpen + kGroupCount) ||
                 (op > OpGroupClose && op < OpGroupClose + kGroupCount) || op == OpAtStart ||
                 op == OpEmpty || op == OpLoopBack) {
-                node = regnext(node);
+                node = NextNode(node);
                 continue;
             }
             return true; // never matches
@@ -718,12 +719,12 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
         if (!m_program) {
             ClearGroups(); // a failed first compile: every attempt fails
         } else if (m_anchored) {
-            matched = regtry(string);
+            matched = TryAt(string);
         } else if (m_firstChar) {
             // Every match starts with the leading literal: after the first
             // position only its occurrences can match.
             for (;;) {
-                if (regtry(at)) {
+                if (TryAt(at)) {
                     matched = true;
                     break;
                 }
@@ -737,7 +738,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
             // Every position up to the terminating NUL, skipping those that
             // cannot start a match; a failed attempt leaves no group set.
             ClearGroups();
-            const char16_t* repeated = m_leadingRepeat ? OPERAND(OPERAND(m_program)) : nullptr;
+            const char16_t* repeated = m_leadingRepeat ? OperandOf(OperandOf(m_program)) : nullptr;
             for (;;) {
                 if (m_hasStartSet && !m_startSet.Contains(*at)) {
                     at = VU_CRegExpScan::FindInRanges(
@@ -751,7 +752,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
                     if (!requiredAt)
                         break;
                 }
-                if (regtry(at)) {
+                if (TryAt(at)) {
                     matched = true;
                     break;
                 }
@@ -760,7 +761,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
                 if (repeated) {
                     // The attempt here already tried every end of the leading
                     // run, so attempts inside the run would fail the same way.
-                    const size_t run = m_hasLeadingRun ? m_leadingRun : regrepeat(repeated, at);
+                    const size_t run = m_hasLeadingRun ? m_leadingRun : CountRepeat(repeated, at);
                     if (!at[run])
                         break;
                     at += run + 1;
@@ -800,11 +801,11 @@ void VU_CRegExpression::ClearGroups() {
     std::fill(m_groupEnd, m_groupEnd + kGroupCount, nullptr);
 }
 
-bool VU_CRegExpression::regtry(const char16_t* position) {
+bool VU_CRegExpression::TryAt(const char16_t* position) {
     m_input = position;
     m_hasLeadingRun = false;
     ClearGroups();
-    const MatchResult result = regmatch(m_program);
+    const MatchResult result = MatchFrom(m_program);
     if (result == MatchResult::OutOfSteps) {
         m_stepLimitExceeded = true;
         ClearGroups();
@@ -817,18 +818,18 @@ bool VU_CRegExpression::regtry(const char16_t* position) {
     return true;
 }
 
-size_t VU_CRegExpression::regrepeat(const char16_t* node, const char16_t* at) const {
-    switch (OP(node)) {
+size_t VU_CRegExpression::CountRepeat(const char16_t* node, const char16_t* at) const {
+    switch (OpOf(node)) {
     case OpAnyChar:
         return VU_CRegExpScan::Length(at);
     case OpLiteral:
-        return VU_CRegExpScan::RunOf(at, *OPERAND(node));
+        return VU_CRegExpScan::RunOf(at, *OperandOf(node));
     case OpInSet:
     case OpNotInSet: {
         const SetInfo* info = FindSetInfo(node);
         if (!info)
             return 0;
-        const bool wanted = OP(node) == OpInSet;
+        const bool wanted = OpOf(node) == OpInSet;
         const char16_t* p = at;
         while (*p && info->members.Contains(*p) == wanted)
             ++p;
@@ -843,11 +844,11 @@ size_t VU_CRegExpression::regrepeat(const char16_t* node, const char16_t* at) co
 // with `c`; alternatives whose first node rejects `c` would fail at once and
 // leave nothing behind, so skipping them keeps the order of attempts.
 const char16_t* VU_CRegExpression::SkipDeadAlternatives(const char16_t* alt, char16_t c) const {
-    for (; alt && OP(alt) == OpAlternative; alt = regnext(alt)) {
-        const char16_t* first = OPERAND(alt);
-        switch (OP(first)) {
+    for (; alt && OpOf(alt) == OpAlternative; alt = NextNode(alt)) {
+        const char16_t* first = OperandOf(alt);
+        switch (OpOf(first)) {
         case OpLiteral:
-            if (*OPERAND(first) == c)
+            if (*OperandOf(first) == c)
                 return alt;
             break;
         case OpAnyChar:
@@ -865,13 +866,13 @@ const char16_t* VU_CRegExpression::SkipDeadAlternatives(const char16_t* alt, cha
         default:
             return alt;
         }
-        if (!regnext(alt) || OP(regnext(alt)) != OpAlternative)
+        if (!NextNode(alt) || OpOf(NextNode(alt)) != OpAlternative)
             return nullptr;
     }
     return nullptr;
 }
 
-// regmatch: depth-first search over the program from `start` at m_input.
+// MatchFrom: depth-first search over the program from `start` at m_input.
 // The recursion of the classic matcher is replaced by a stack of records in
 // m_stack, 32-bit words with the header word on top. Each record holds its
 // input position as the distance from the record below (the first from the
@@ -937,7 +938,7 @@ inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
 
 } // namespace
 
-VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start) {
+VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* start) {
     const char16_t* const base = m_stringStart;
     const char16_t* const program = m_program;
     std::vector<uint32_t>& stack = m_stack;
@@ -987,8 +988,8 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                 failed = true;
                 break;
             }
-            const char16_t* next = regnext(node);
-            const char16_t op = OP(node);
+            const char16_t* next = NextNode(node);
+            const char16_t op = OpOf(node);
             switch (op) {
             case OpAtStart:
                 failed = in != base;
@@ -1015,7 +1016,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                     failed = true;
                 break;
             case OpLiteral: {
-                const char16_t* lit = OPERAND(node);
+                const char16_t* lit = OperandOf(node);
                 if (*lit != *in) {
                     failed = true;
                     break;
@@ -1033,8 +1034,8 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
             case OpLoopBack:
                 break;
             case OpAlternative: {
-                if (!next || OP(next) != OpAlternative) {
-                    next = OPERAND(node); // a single choice
+                if (!next || OpOf(next) != OpAlternative) {
+                    next = OperandOf(node); // a single choice
                     break;
                 }
                 const char16_t* first = SkipDeadAlternatives(node, *in);
@@ -1042,19 +1043,19 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                     failed = true;
                     break;
                 }
-                const char16_t* rest = regnext(first);
+                const char16_t* rest = NextNode(first);
                 rest =
-                    rest && OP(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
+                    rest && OpOf(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
                 if (rest)
                     pushBranch(rest, uint64_t(in - base));
-                next = OPERAND(first);
+                next = OperandOf(first);
                 break;
             }
             case OpStar:
             case OpPlus: {
                 const size_t minimum = op == OpStar ? 0 : 1;
-                const char16_t lookAhead = next && OP(next) == OpLiteral ? *OPERAND(next) : 0;
-                const size_t count = regrepeat(OPERAND(node), in);
+                const char16_t lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
+                const size_t count = CountRepeat(OperandOf(node), in);
                 if (m_stepLimit) {
                     const unsigned long long cost = count >> 4;
                     if (cost >= steps) {
@@ -1063,7 +1064,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                     }
                     steps -= cost;
                 }
-                if (node == OPERAND(program) && in == m_input) {
+                if (node == OperandOf(program) && in == m_input) {
                     // The leading repetition: the search skips its run.
                     m_leadingRun = count;
                     m_hasLeadingRun = true;
@@ -1143,21 +1144,21 @@ VU_CRegExpression::MatchResult VU_CRegExpression::regmatch(const char16_t* start
                 top = pos - r.distance;
                 const char16_t* alt = program + r.payload;
                 in = base + pos;
-                const char16_t* rest = regnext(alt);
+                const char16_t* rest = NextNode(alt);
                 rest =
-                    rest && OP(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
+                    rest && OpOf(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
                 if (rest)
                     pushBranch(rest, pos);
-                node = OPERAND(alt);
+                node = OperandOf(alt);
                 resumed = true;
                 continue;
             }
             // A repetition: the next shorter count the following literal can
             // follow, if any.
             const char16_t* repeat = program + r.payload;
-            const char16_t* next = regnext(repeat);
-            const size_t minimum = OP(repeat) == OpStar ? 0 : 1;
-            const char16_t lookAhead = next && OP(next) == OpLiteral ? *OPERAND(next) : 0;
+            const char16_t* next = NextNode(repeat);
+            const size_t minimum = OpOf(repeat) == OpStar ? 0 : 1;
+            const char16_t lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
             const char16_t* from = base + pos;
             const size_t countAt = stack.size() - r.words;
             size_t k = size_t(ReadWide(stack, countAt));

@@ -123,27 +123,27 @@ private:
     enum class MatchResult { Fail, Match, OutOfSteps };
 
     // Parser, one step per grammar level
-    char16_t* reg(bool paren, int& flags);
-    char16_t* regbranch(int& flags);
-    char16_t* regpiece(int& flags);
-    char16_t* regatom(int& flags);
-    char16_t* regset();
+    char16_t* ParseExpression(bool paren, int& flags);
+    char16_t* ParseBranch(int& flags);
+    char16_t* ParsePiece(int& flags);
+    char16_t* ParseAtom(int& flags);
+    char16_t* ParseSet();
     // Emitters
-    char16_t* regnode(char16_t op);
-    void regc(char16_t ch);
-    void reginsert(char16_t op, char16_t* operand);
-    void regtail(char16_t* p, const char16_t* target);
-    void regoptail(char16_t* p, const char16_t* target);
+    char16_t* EmitNode(char16_t op);
+    void EmitUnit(char16_t ch);
+    void InsertNode(char16_t op, char16_t* operand);
+    void LinkTail(char16_t* p, const char16_t* target);
+    void LinkOperandTail(char16_t* p, const char16_t* target);
     // Node access
-    static const char16_t* regnext(const char16_t* p);
-    static char16_t* regnext(char16_t* p);
-    static char16_t OP(const char16_t* p) { return *p; }
-    static const char16_t* OPERAND(const char16_t* p) { return p + kNodeUnits; }
-    static char16_t* OPERAND(char16_t* p) { return p + kNodeUnits; }
+    static const char16_t* NextNode(const char16_t* p);
+    static char16_t* NextNode(char16_t* p);
+    static char16_t OpOf(const char16_t* p) { return *p; }
+    static const char16_t* OperandOf(const char16_t* p) { return p + kNodeUnits; }
+    static char16_t* OperandOf(char16_t* p) { return p + kNodeUnits; }
     // Matcher
-    bool regtry(const char16_t* position);
-    MatchResult regmatch(const char16_t* node);
-    size_t regrepeat(const char16_t* node, const char16_t* at) const;
+    bool TryAt(const char16_t* position);
+    MatchResult MatchFrom(const char16_t* node);
+    size_t CountRepeat(const char16_t* node, const char16_t* at) const;
     bool InSet(const char16_t* node, char16_t c) const;
     const SetInfo* FindSetInfo(const char16_t* node) const;
     const char16_t* SkipDeadAlternatives(const char16_t* alt, char16_t c) const;
