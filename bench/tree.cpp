@@ -8,15 +8,13 @@
 // As in the other benchmarks, freed memory stays in the heap between
 // iterations (first touches of fresh pages are slow in a sandbox and would
 // swamp the dump); VU_BENCH_COLD_MEMORY=1 leaves the allocator alone.
+#include "support/Heap.h"
 #include "tree/TreeNode.h"
 
 #include <benchmark/benchmark.h>
 #include <pugixml.hpp>
 
 #include <cstdlib>
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
 #include <memory>
 #include <sstream>
 #include <string>
@@ -225,20 +223,10 @@ BENCHMARK(BM_Peer_Pugixml_AllRows)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
 
-void KeepFreedMemory() {
-#if defined(__GLIBC__)
-    const char* cold = std::getenv("VU_BENCH_COLD_MEMORY");
-    if (cold && *cold == '1')
-        return;
-    mallopt(M_MMAP_MAX, 0);
-    mallopt(M_TRIM_THRESHOLD, -1);
-#endif
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    KeepFreedMemory();
+    vu::bench::KeepFreedMemory();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;

@@ -13,6 +13,7 @@
 // As in the XML benchmark, freed memory is kept in the heap so that fresh
 // page faults do not swamp the figures; VU_BENCH_COLD_MEMORY=1 turns that off.
 #include "support/Corpus.h"
+#include "support/Heap.h"
 #include "text/WordWrappedString.h"
 
 #include <benchmark/benchmark.h>
@@ -21,9 +22,6 @@
 #include <cstdlib>
 #include <string>
 #include <vector>
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
 
 namespace {
 
@@ -196,16 +194,6 @@ bool SameLines() {
     return true;
 }
 
-void KeepFreedMemory() {
-#if defined(__GLIBC__)
-    const char* cold = std::getenv("VU_BENCH_COLD_MEMORY");
-    if (cold && *cold == '1')
-        return;
-    mallopt(M_MMAP_MAX, 0); // large blocks from the heap too, so they are kept
-    mallopt(M_TRIM_THRESHOLD, -1);
-#endif
-}
-
 } // namespace
 
 BENCHMARK(BM_VuWrap)->Apply(Sizes);
@@ -214,7 +202,7 @@ BENCHMARK(BM_VuWrapAndJoin)->Apply(Sizes);
 BENCHMARK(BM_NaiveWrapAndJoin)->Apply(Sizes);
 
 int main(int argc, char** argv) {
-    KeepFreedMemory();
+    vu::bench::KeepFreedMemory();
     if (!SameLines()) {
         std::fprintf(stderr, "the wrappers disagree on the prose\n");
         return 1;

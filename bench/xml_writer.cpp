@@ -10,6 +10,7 @@
 // bytes (libxml2 writes UTF-8). So by default freed memory is kept in the
 // heap and reused from one iteration to the next for every contender alike;
 // VU_BENCH_COLD_MEMORY=1 leaves the allocator as it is.
+#include "support/Heap.h"
 #include "text/XmlWriter.h"
 
 #include <benchmark/benchmark.h>
@@ -18,9 +19,6 @@
 
 #include <charconv>
 #include <cstdio>
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -255,18 +253,8 @@ BENCHMARK(BM_Libxml2TextWriter)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PugixmlUtf16)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_BareAppendLoop)->Unit(benchmark::kMillisecond);
 
-void KeepFreedMemory() {
-#if defined(__GLIBC__)
-    const char* cold = std::getenv("VU_BENCH_COLD_MEMORY");
-    if (cold && *cold == '1')
-        return;
-    mallopt(M_MMAP_MAX, 0); // large blocks from the heap too, so they are kept
-    mallopt(M_TRIM_THRESHOLD, -1);
-#endif
-}
-
 int main(int argc, char** argv) {
-    KeepFreedMemory();
+    vu::bench::KeepFreedMemory();
     if (!SameOutput()) {
         std::fprintf(stderr, "writer output differs from the append loop\n");
         return 1;
