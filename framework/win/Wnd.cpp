@@ -1,14 +1,13 @@
 #include "framework/win/Wnd.h"
 
-#include "foundation/win/HostServices.h"
-#include "framework/win/ChildReflector.h"
+#include "framework/win/AppServices.h"
+#include "framework/win/ParentWatch.h"
 #include "framework/win/DC.h"
 #include "framework/win/DynLinkLibrary.h"
 #include "framework/win/Font.h"
 #include "framework/win/Geometry.h"
 #include "framework/win/Menu.h"
 #include "framework/win/ThreadState.h"
-#include "framework/win/Wide.h"
 
 namespace {
 
@@ -145,22 +144,36 @@ HWND CWnd::UnsubclassWindow() {
 
 // ---- parent notifications -----------------------------------------------
 
+namespace {
+CParentWatch* g_pParentWatch = nullptr;
+} // namespace
+
+CParentWatch* AfxGetParentWatch() {
+    return g_pParentWatch;
+}
+
+void AfxSetParentWatch(CParentWatch* pWatch) {
+    g_pParentWatch = pWatch;
+}
+
 void CWnd::WatchParent() {
     if (m_hWndWatchedParent != nullptr || m_hWnd == nullptr)
         return;
     if ((GetWindowLongPtrW(m_hWnd, GWL_STYLE) & WS_CHILD) == 0)
         return;
     HWND hWndParent = ::GetParent(m_hWnd);
-    if (hWndParent == nullptr)
+    CParentWatch* pWatch = AfxGetParentWatch();
+    if (hWndParent == nullptr || pWatch == nullptr)
         return;
-    CChildReflector::Acquire(hWndParent);
+    pWatch->Acquire(hWndParent);
     m_hWndWatchedParent = hWndParent;
 }
 
 void CWnd::StopWatchingParent() {
     if (m_hWndWatchedParent == nullptr)
         return;
-    CChildReflector::Release(m_hWndWatchedParent);
+    if (CParentWatch* pWatch = AfxGetParentWatch())
+        pWatch->Release(m_hWndWatchedParent);
     m_hWndWatchedParent = nullptr;
 }
 
@@ -236,15 +249,15 @@ void CWnd::UnhookCreation() {
     }
 }
 
-BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16_t* lpszWindowName,
+BOOL CWnd::CreateEx(DWORD dwExStyle, const wchar_t* lpszClassName, const wchar_t* lpszWindowName,
                     DWORD dwStyle, int x, int y, int nWidth, int nHeight, HWND hWndParent,
                     HMENU nIDorHMenu, LPVOID lpParam) {
     if (m_hWnd != nullptr)
         return FALSE;
     CREATESTRUCTW cs{};
     cs.dwExStyle = dwExStyle;
-    cs.lpszClass = vu::W(lpszClassName);
-    cs.lpszName = vu::W(lpszWindowName);
+    cs.lpszClass = lpszClassName;
+    cs.lpszName = lpszWindowName;
     cs.style = static_cast<LONG>(dwStyle);
     cs.x = x;
     cs.y = y;
@@ -273,7 +286,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16
     return m_hWnd == hWnd;
 }
 
-BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16_t* lpszWindowName,
+BOOL CWnd::CreateEx(DWORD dwExStyle, const wchar_t* lpszClassName, const wchar_t* lpszWindowName,
                     DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
                     rect.right - rect.left, rect.bottom - rect.top,
@@ -281,7 +294,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16
                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
 }
 
-BOOL CWnd::Create(const char16_t* lpszClassName, const char16_t* lpszWindowName, DWORD dwStyle,
+BOOL CWnd::Create(const wchar_t* lpszClassName, const wchar_t* lpszWindowName, DWORD dwStyle,
                   const CRect& rect, CWnd* pParentWnd, UINT nID) {
     return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
@@ -453,7 +466,7 @@ CWnd* CWnd::GetDlgItem(int nID) const {
 
 CWnd* CWnd::GetSafeOwner(CWnd* pParent) {
     return FromHandle(
-        VuGetHostServices()->GetSafeOwner(pParent != nullptr ? pParent->m_hWnd : nullptr));
+        AfxGetAppServices()->GetSafeOwner(pParent != nullptr ? pParent->m_hWnd : nullptr));
 }
 
 BOOL CWnd::ShowWindow(int nCmdShow) {
@@ -469,14 +482,14 @@ BOOL CWnd::IsWindowEnabled() const {
     return ::IsWindowEnabled(m_hWnd);
 }
 
-void CWnd::SetWindowText(const char16_t* lpszString) {
-    ::SetWindowTextW(m_hWnd, vu::W(lpszString != nullptr ? lpszString : u""));
+void CWnd::SetWindowText(const wchar_t* lpszString) {
+    ::SetWindowTextW(m_hWnd, (lpszString != nullptr ? lpszString : L""));
 }
 
 int CWnd::GetWindowText(CString& rString) const {
     int length = ::GetWindowTextLengthW(m_hWnd);
-    char16_t* buffer = rString.GetBuffer(length + 1);
-    int copied = ::GetWindowTextW(m_hWnd, vu::W(buffer), length + 1);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
+    int copied = ::GetWindowTextW(m_hWnd, buffer, length + 1);
     rString.ReleaseBuffer(copied);
     return copied;
 }
@@ -512,14 +525,14 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const {
     if (hWndItem == nullptr)
         return 0;
     int length = ::GetWindowTextLengthW(hWndItem);
-    char16_t* buffer = rString.GetBuffer(length + 1);
-    int copied = ::GetWindowTextW(hWndItem, vu::W(buffer), length + 1);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
+    int copied = ::GetWindowTextW(hWndItem, buffer, length + 1);
     rString.ReleaseBuffer(copied);
     return copied;
 }
 
-void CWnd::SetDlgItemText(int nID, const char16_t* lpszString) {
-    ::SetDlgItemTextW(m_hWnd, nID, vu::W(lpszString != nullptr ? lpszString : u""));
+void CWnd::SetDlgItemText(int nID, const wchar_t* lpszString) {
+    ::SetDlgItemTextW(m_hWnd, nID, (lpszString != nullptr ? lpszString : L""));
 }
 
 // ---- geometry ----------------------------------------------------------------
