@@ -18,6 +18,9 @@ struct TestBeam : Vu_CTabBeam {
     using Vu_CTabBeam::m_nAutoScrollTimer;
     using Vu_CTabBeam::m_nFirstVisible;
     using Vu_CTabBeam::m_toolTip;
+    int MeasureTabTextForTest(const wchar_t* text, bool bBold) {
+        return MeasureTabText(vu::StringView(text), bBold);
+    }
 };
 
 inline vutest::PlainWindow& Host() {
