@@ -4,26 +4,15 @@
 #include "tabs/TabBeamModel.h"
 
 #include <map>
-#include <ostream>
 #include <string>
 #include <vector>
-
-// Failures print tab texts as ASCII.
-inline void PrintTo(const CString& s, std::ostream* os) {
-    *os << '"';
-    for (int i = 0; i < s.GetLength(); ++i)
-        *os << static_cast<char>(s[i] < 128 ? s[i] : '?');
-    *os << '"';
-}
 
 namespace vutest {
 
 struct FakeTabView : VU_ATabBeamView {
     int MeasureTabText(vu::StringView text, bool bBold) override {
         auto known = fixed.find(vu::String(text));
-        if (known != fixed.end())
-            return known->second;
-        return static_cast<int>(text.size()) * (bBold ? 7 : 6);
+        return known != fixed.end() ? known->second : int(text.size()) * (bBold ? 7 : 6);
     }
     CRect GetTabClientRect() const override { return client; }
     void ScrollTabArea(int dx) override { scrolls.push_back(dx); }

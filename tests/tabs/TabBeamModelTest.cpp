@@ -26,13 +26,9 @@ TEST(TabBeamGeometry, OffsetsVisibleRangeAndHitTesting) {
     EXPECT_EQ(288, beam.CalcTotalTabWidth());
     EXPECT_EQ(3, beam.CalcLastVisibleTab());
     EXPECT_EQ(0, beam.CalcFirstVisibleTab(3));
-    struct Row {
-        int x, tab;
-    } hits[] = {{10, 0}, {28, 0}, {30, 0}, {85, 1}, {100, 1}, {151, 1}, {315, 3}, {316, -1}};
-    for (const Row& r : hits) {
-        SCOPED_TRACE(r.x);
-        EXPECT_EQ(r.tab, beam.CalcTabFromOffset(r.x));
-    }
+    int hits[][2] = {{10, 0}, {28, 0}, {30, 0}, {85, 1}, {100, 1}, {151, 1}, {315, 3}, {316, -1}};
+    for (const auto& hit : hits) // x, tab
+        EXPECT_EQ(hit[1], beam.CalcTabFromOffset(hit[0])) << hit[0];
     beam.view.client.right = 200; // tab 2 cut off, tab 3 out of view
     EXPECT_EQ(2, beam.CalcLastVisibleTab());
     EXPECT_EQ(2, beam.CalcFirstVisibleTab(3));
@@ -65,15 +61,11 @@ TEST(TabBeamGeometry, ScrollClampsAtBothEnds) {
     FakeBeam beam;
     beam.AddWidths({100, 100, 100, 100, 100, 100});
     beam.view.client.right = 300; // the last two tabs fill the area
-    struct Row {
-        int code, dx, first;
-    } rows[] = {{VU_CTabBeamModel::ScrollLast, -428, 4}, {VU_CTabBeamModel::ScrollRight, 0, 4},
-                {VU_CTabBeamModel::ScrollLeft, 107, 3},  {7, 0, 3},
-                {VU_CTabBeamModel::ScrollFirst, 321, 0}, {VU_CTabBeamModel::ScrollLeft, 0, 0}};
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.code);
-        EXPECT_EQ(r.dx, beam.Scroll(r.code));
-        EXPECT_EQ(r.first, beam.GetFirstVisible());
+    // code (3 last, 2 right, 1 left, 0 first), distance moved, first visible
+    int rows[][3] = {{3, -428, 4}, {2, 0, 4}, {1, 107, 3}, {7, 0, 3}, {0, 321, 0}, {1, 0, 0}};
+    for (const auto& r : rows) {
+        EXPECT_EQ(r[1], beam.Scroll(r[0])) << r[0];
+        EXPECT_EQ(r[2], beam.GetFirstVisible()) << r[0];
     }
     beam.view.client.right = 800; // everything fits: no scrolling at all
     EXPECT_EQ(0, beam.Scroll(VU_CTabBeamModel::ScrollRight));
@@ -82,22 +74,13 @@ TEST(TabBeamGeometry, ScrollClampsAtBothEnds) {
 // Tab 1 fits the client but ends 10 pixels past its right edge even as
 // the first visible tab, where Scroll cannot move any further.
 TEST(TabBeamGeometry, ActiveTabCutOffWhileScrollIsClampedEnds) {
-    for (bool bySwitch : {true, false}) {
-        SCOPED_TRACE(bySwitch ? "SwitchToTab" : "ScrollActiveTabIntoView");
-        FakeBeam beam;
-        beam.AddWidths({50, 170});
-        beam.view.client.right = 195;
-        if (bySwitch) {
-            beam.SwitchToTab(CPoint(100, 5));
-            EXPECT_EQ(std::vector<int>{1}, beam.view.selChanged);
-        } else {
-            beam.SetCurSel(1);
-            beam.ScrollActiveTabIntoView();
-        }
-        EXPECT_EQ(1, beam.GetCurSel());
-        EXPECT_EQ(1, beam.GetFirstVisible());
-        EXPECT_EQ(std::vector<int>{-57}, beam.view.scrolls);
-    }
+    FakeBeam beam;
+    beam.AddWidths({50, 170});
+    beam.view.client.right = 195;
+    beam.SwitchToTab(CPoint(100, 5));
+    EXPECT_EQ(std::vector<int>{1}, beam.view.selChanged);
+    EXPECT_EQ(1, beam.GetFirstVisible());
+    EXPECT_EQ(std::vector<int>{-57}, beam.view.scrolls); // one step, then clamped
 }
 
 TEST(TabBeamSelection, SetCurSelMarksAndStaysQuiet) {
@@ -132,16 +115,15 @@ TEST(TabBeamTabs, InsertAndDeleteBookkeeping) {
     EXPECT_EQ(4, beam.GetCount());
 
     struct Row {
-        const char* name;
+        const char *name, *after; // current, first visible, previous
         int tabs, active, previous, deleted;
-        int current, first, newPrevious;
     } rows[] = {
-        {"active last tab: tab 0 active", 4, 3, 1, 3, 0, 0, 1},
-        {"active tab: the index after it", 5, 1, 3, 1, 2, 2, 2},
-        {"left of the active tab", 5, 3, 0, 1, 2, 0, 0},
-        {"the previous tab: previous := current", 5, 3, 1, 1, 2, 0, 2},
-        {"last but one active: one past the end", 3, 1, 0, 1, 2, 2, 0},
-        {"the only tab", 1, 0, 0, 0, -1, 0, -1},
+        {"active last tab: tab 0 active", "0 0 1", 4, 3, 1, 3},
+        {"active tab: the index after it", "2 2 2", 5, 1, 3, 1},
+        {"left of the active tab", "2 0 0", 5, 3, 0, 1},
+        {"the previous tab: previous := current", "2 0 2", 5, 3, 1, 1},
+        {"last but one active: one past the end", "2 2 0", 3, 1, 0, 1},
+        {"the only tab", "-1 0 -1", 1, 0, 0, 0},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -152,9 +134,9 @@ TEST(TabBeamTabs, InsertAndDeleteBookkeeping) {
         b.SetCurSel(r.active);
         b.DeleteTab(r.deleted);
         EXPECT_EQ(r.tabs - 1, b.GetCount());
-        EXPECT_EQ(r.current, b.GetCurSel());
-        EXPECT_EQ(r.first, b.GetFirstVisible());
-        EXPECT_EQ(r.newPrevious, b.GetPrevSel());
+        EXPECT_EQ(r.after, std::to_string(b.GetCurSel()) + " " +
+                               std::to_string(b.GetFirstVisible()) + " " +
+                               std::to_string(b.GetPrevSel()));
     }
     EXPECT_THROW(beam.DeleteTab(9), CInvalidArgException);
 }

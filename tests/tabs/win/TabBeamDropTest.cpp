@@ -67,14 +67,17 @@ TEST_F(DropTest, AnswersPinTheFirstTabAndRefusedDropsMoveNothing) {
         const char* name;
         int dragged, over; // dragged -1: text instead of a tab
         DWORD enter, effect;
+        bool notifyParent = true; // the move-notify window is the parent
     } rows[] = {
         {"tab 3 over tab 5", 3, 5, DROPEFFECT_MOVE, DROPEFFECT_MOVE},
         {"tab 3 over tab 0", 3, 0, DROPEFFECT_NONE, DROPEFFECT_NONE},
         {"tab 0 over tab 4", 0, 4, DROPEFFECT_MOVE, DROPEFFECT_NONE},
         {"text over tab 2", -1, 2, DROPEFFECT_NONE, DROPEFFECT_NONE},
+        {"tab 3 over tab 5, no move-notify window", 3, 5, DROPEFFECT_NONE, DROPEFFECT_NONE, false},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
+        beam->SetTabMoveNotifyWnd(r.notifyParent ? &parent : nullptr);
         IDataObject* object =
             r.dragged >= 0 ? TabData(r.dragged) : Data(CF_UNICODETEXT, L"Main*", 12);
         EXPECT_EQ(r.enter, Effect(OnTab(r.over, false), object));
@@ -87,11 +90,6 @@ TEST_F(DropTest, AnswersPinTheFirstTabAndRefusedDropsMoveNothing) {
         target->DragLeave();
         object->Release();
     }
-    beam->SetTabMoveNotifyWnd(nullptr); // dragging tabs is off
-    IDataObject* object = TabData(3);
-    EXPECT_EQ(DROPEFFECT_NONE, Effect(OnTab(5, false), object));
-    target->DragLeave();
-    object->Release();
 }
 
 TEST_F(DropTest, DropLandsBesideTheHalfOfTheTabUnderIt) {

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <vector>
 
 namespace tabtest {
 
@@ -17,11 +16,7 @@ namespace tabtest {
 struct TestBeam : Vu_CTabBeam {
     using Vu_CTabBeam::m_dropTarget;
     using Vu_CTabBeam::m_nAutoScrollTimer;
-    using Vu_CTabBeam::m_nFirstVisible;
     using Vu_CTabBeam::m_toolTip;
-    int MeasureTabTextForTest(const wchar_t* text, bool bBold) {
-        return MeasureTabText(vu::StringView(text), bBold);
-    }
 };
 
 inline vutest::PlainWindow& Host() {
