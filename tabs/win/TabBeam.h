@@ -30,6 +30,8 @@
 //   line 1 above line 2, both centred; the active tab's line 1 is bold.
 // - Text widths are remembered per font (VU_CTabTextWidthCache), so that
 //   fitting after a resize measures nothing new.
+// - The tips are a plain CToolTipCtrl with one tool over the beam; the
+//   framework has no tool-hit-test chain, so there is no OnToolHitTest.
 #include <windows.h>
 
 #include "framework/win/Brush.h"
