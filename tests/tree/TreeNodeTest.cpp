@@ -265,6 +265,32 @@ TEST(TreeNodeVisitor, CompletionStopsTheWalk) {
     EXPECT_TRUE(done.arrays.empty());
 }
 
+// The array interface allows null entries: counts, searches, walks, the XML
+// dump and the destructor all skip them.
+TEST(TreeNode, NullChildrenAreSkippedEverywhere) {
+    auto* root = new CTreeNode(CString(VU_T("root")), -1, -1, 1, 1, nullptr);
+    root->Add(nullptr);
+    CTreeNode* a = AddChild(root, VU_T("a"), 2, 20);
+    a->Add(nullptr);
+    AddChild(a, VU_T("a1"), 3, 30);
+    root->Add(nullptr);
+    root->Expand(1);
+    a->Expand(1);
+    EXPECT_EQ(3, root->GetNumberOfNodes());
+    EXPECT_EQ(2, root->ComputeNumberOfExpandedNodesShowing());
+    EXPECT_EQ(nullptr, root->FindNode(99));
+    EXPECT_EQ(nullptr, root->FindNodeFromItemData(99));
+    EXPECT_EQ(3, root->FindNoCaseChildString(CString(VU_T("A1")), false, 2, 1));
+    CTreeNode::ResetXmlRowCounter(-1);
+    const vu::String xml = root->XmlGetString();
+    EXPECT_EQ(3, CTreeNode::GetXmlRowCounter());
+    EXPECT_NE(vu::String::npos, xml.find(VU_T("<text>a1</text><parent>a</parent>")));
+    RecordingVisitor v;
+    root->Accept(&v);
+    EXPECT_EQ(3u, v.arrays.size());
+    delete root;
+}
+
 // ---- Ownership ------------------------------------------------------------------
 
 struct CountedNode : CTreeNode {

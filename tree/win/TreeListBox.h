@@ -134,6 +134,8 @@ public:
     int GetLeftGutterSize() const { return m_leftGutter; }
     // Column positions in average character widths from the text's start.
     void SetTabStops(const CWordArray& stops);
+    // The tool tip belongs to the parent window from now on (made again if
+    // it exists already).
     void UseTooltipParent();
 
     // ---- Overridables -------------------------------------------------------------------------
@@ -204,6 +206,8 @@ protected:
 
 private:
     void CreateToolTip();
+    // Whether one column of the row's text (-1: every column) fits.
+    BOOL DoesColumnFit(int row, int column);
     HFONT GetControlFont() const;
     HFONT GetBoldFont();
     int GetAverageCharWidth();

@@ -142,6 +142,22 @@ TEST_F(TreeListTest, ClickOnTheButtonColumnTogglesUpToItsLastPixel) {
     EXPECT_EQ(1, Selected());
 }
 
+// The parent may change the tree when the list box notifies it during the
+// default handling of the click (LBN_SELCHANGE on Windows, LBN_SETFOCUS as
+// well; Wine sends only the latter there): the click toggles the node that
+// is on the row afterwards.
+TEST_F(TreeListTest, ClickTogglesTheNodeOnItsRowAfterTheParentWasNotified) {
+    BuildSample();
+    list->Expand(0); // A, A1, A2, B, C
+    parent->onCommand = [&](const Command& c) {
+        if ((c.code == LBN_SELCHANGE || c.code == LBN_SETFOCUS) && list->GetRowCount() == 5)
+            list->DeleteItemByIndex(0); // A goes; collapsed B takes row 0
+    };
+    SetFocus(parent->Handle());
+    Click(Hwnd(), 8, MidY(0));
+    EXPECT_EQ((RowList{L"B", L"B1", L"C"}), Rows());
+}
+
 TEST_F(TreeListTest, DoubleClickTogglesFromTheButtonRightwards) {
     BuildSample();
     list->SetLeftGutterSize(20);

@@ -244,6 +244,10 @@ TEST_F(TreeListTest, SelectionByItemDataOrTextShowsTheNodeAndNotifies) {
     EXPECT_EQ(-1, list->SelectItemFromString(S(L"b1"), true)) << "the whole text, case-sensitive";
     EXPECT_EQ(-1, list->SelectItemFromItemData(999, true));
     EXPECT_EQ(6, Selected());
+
+    list->Collapse(0); // A1 hidden again, with its children
+    EXPECT_EQ(1, list->SelectItemFromItemData(110, false));
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"B1", L"C"}), Rows()) << "A1 itself stays closed";
 }
 
 TEST_F(TreeListTest, ScrollingAndTheScrollbar) {
