@@ -67,22 +67,4 @@ TEST(PathIterator, WalksEveryPathShorterThan261Units) {
     EXPECT_TRUE(none.Done());
 }
 
-TEST(PathIterator, CopiesWalkOnTheirOwn) {
-    AF_CPathIterator it(VU_T("c:\\a\\b\\c"));
-    it++;
-    AF_CPathIterator copy(it);
-    it.SetPath(VU_T("d:\\x")); // overwrites the original's buffers
-    EXPECT_EQ(Ascii(copy.Current()), "c:\\a");
-    EXPECT_EQ(Ascii(copy++), "c:\\a\\b");
-    AF_CPathIterator assigned;
-    assigned = copy;
-    EXPECT_EQ(Ascii(assigned++), "c:\\a\\b\\c");
-    EXPECT_EQ(Ascii(copy.Current()), "c:\\a\\b");
-
-    EXPECT_EQ(Ascii(it.Current()), "d:\\");
-    EXPECT_EQ(Ascii(it++), "d:\\x");
-    EXPECT_EQ(Ascii(it.First()), "d:\\"); // restarts
-    EXPECT_EQ(Ascii(it++), "d:\\x");
-}
-
 } // namespace

@@ -78,38 +78,30 @@ public:
     BOOL focus = TRUE;
 };
 
-// The selected row is highlighted only while the control has the focus
-// (as a derived HasFocus tells); without it, it keeps a quiet background.
-TEST(TreeListDrawing, SelectionColoursFollowTheFocus) {
+// Disabled rows are grey; the selected row is highlighted only while the
+// control has the focus (as a derived HasFocus tells), else it keeps a quiet
+// background.
+TEST(TreeListDrawing, DisabledRowsAndTheSelectionFollowTheOverrides) {
     ParentWindow parent;
     GreyList list;
     ASSERT_TRUE(CreateList(list, parent));
     list.AddItem(S(L"Selected row"), -1, -1, 0);
+    list.AddItem(S(L"Disabled row"), -1, -1, 0);
+    list.AddItem(S(L"Enabled row"), -1, -1, 0);
     SendMessageW(list.m_hWnd, LB_SETCURSEL, 0, 0);
+    const COLORREF grey = GetSysColor(COLOR_GRAYTEXT), text = GetSysColor(COLOR_WINDOWTEXT);
     for (BOOL focus : {TRUE, FALSE}) {
+        SCOPED_TRACE(focus ? "focus" : "no focus");
         list.focus = focus;
         ClientPicture picture(list.m_hWnd);
-        const COLORREF text = GetSysColor(focus ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
-        EXPECT_EQ(GetSysColor(focus ? COLOR_HIGHLIGHT : COLOR_BTNFACE),
-                  picture.At(picture.Width() - 2, MidY(0)))
-            << focus;
-        EXPECT_TRUE(picture.HasColour(list.GetTextLeft(0), 0, picture.Width(), kRowHeight, text));
+        const int w = picture.Width();
+        EXPECT_EQ(GetSysColor(focus ? COLOR_HIGHLIGHT : COLOR_BTNFACE), picture.At(w - 2, MidY(0)));
+        EXPECT_TRUE(picture.HasColour(list.GetTextLeft(0), 0, w, kRowHeight,
+                                      focus ? GetSysColor(COLOR_HIGHLIGHTTEXT) : text));
+        EXPECT_TRUE(picture.HasColour(0, kRowHeight, w, 2 * kRowHeight, grey));
+        EXPECT_FALSE(picture.HasColour(0, kRowHeight, w, 2 * kRowHeight, text));
+        EXPECT_FALSE(picture.HasColour(0, 2 * kRowHeight, w, 3 * kRowHeight, grey));
     }
-}
-
-TEST(TreeListDrawing, DisabledRowsAreGrey) {
-    ParentWindow parent;
-    GreyList list;
-    ASSERT_TRUE(CreateList(list, parent));
-    list.AddItem(S(L"Enabled row"), -1, -1, 0);
-    list.AddItem(S(L"Disabled row"), -1, -1, 0);
-    ClientPicture picture(list.m_hWnd);
-    const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
-    const COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
-    EXPECT_TRUE(picture.HasColour(0, 0, picture.Width(), kRowHeight, text));
-    EXPECT_FALSE(picture.HasColour(0, 0, picture.Width(), kRowHeight, grey));
-    EXPECT_TRUE(picture.HasColour(0, kRowHeight, picture.Width(), 2 * kRowHeight, grey));
-    EXPECT_FALSE(picture.HasColour(0, kRowHeight, picture.Width(), 2 * kRowHeight, text));
 }
 
 TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
