@@ -31,6 +31,8 @@ std::string Fields(const AF_CPath& p) {
            Ascii(p.GetShare());
 }
 
+// The splitter's own rules (dots, extensions) are compared with the C
+// runtime under Wine; these rows are the path class's rules on top.
 TEST(Path, SplitsIntoItsFields) {
     const vu::String longDir = VU_T("C:\\") + vu::String(300, VU_T('d')) + VU_T("\\f.txt");
     struct Row {
@@ -46,9 +48,6 @@ TEST(Path, SplitsIntoItsFields) {
         {VU_T("\\\\srv\\share"), "|\\\\srv|share||\\\\srv\\share|srv|share"},
         {VU_T("\\\\srv"), "|\\|srv||\\\\srv|srv|"},
         {VU_T("C:\\a\\\\b\\\\"), "C|\\a\\\\b\\|||C:\\a\\\\b\\\\||"},
-        {VU_T("dir\\..\\f.tar.gz"), "|dir\\..|f.tar|gz|dir\\..\\f.tar.gz||"},
-        {VU_T(".."), "||.||..||"},
-        {VU_T(".profile"), "|||profile|.profile||"},
         {VU_T("name."), "||name||name.||"},
         {VU_T("1:x"), "||x||1:x||"}, // not a drive letter
         {VU_T("\t \t"), "||||||"},
