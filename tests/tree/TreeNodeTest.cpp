@@ -160,6 +160,11 @@ TEST(TreeNode, FindNoCaseChildString) {
     AddChild(motors, VU_T("Motor"), 4);
     CTreeNode* group = AddChild(&root, VU_T("Pumps"), 5);
     AddChild(group, VU_T("PUMP_1\tBOOL"), 6);
+    // "Motors" hides its child "Motor" from an exact search with
+    // matchParents; a later sibling is still searched.
+    CTreeNode other(CString(VU_T("root")), 0, 0, 0, 11, nullptr);
+    AddChild(AddChild(&other, VU_T("Motors"), 12), VU_T("Motor"), 13);
+    AddChild(&other, VU_T("motor\tINT"), 14);
 
     struct Row {
         const char* name;
@@ -181,22 +186,14 @@ TEST(TreeNode, FindNoCaseChildString) {
         {"short prefix of a longer key", &root, VU_T("Mxyz"), false, 1, 0, 2},
         {"matchParents finds the root first", &root, VU_T("d"), true, 1, 0, 1},
         {"no match", &root, VU_T("valve"), true, 5, 0, -1},
+        {"a mismatching parent ends only its subtree", &other, VU_T("Motor"), true, 5, 1, 14},
+        {"no candidate parent: its child is searched", &other, VU_T("Motor"), false, 5, 1, 13},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(row.expected, row.node->FindNoCaseChildString(CString(row.text), row.matchParents,
                                                                 row.length, row.exact));
     }
-}
-
-TEST(TreeNode, ExactSearchPrunesOnlyTheMismatchingSubtree) {
-    CTreeNode root(CString(VU_T("root")), 0, 0, 0, 1, nullptr);
-    CTreeNode* motors = AddChild(&root, VU_T("Motors"), 2);
-    AddChild(motors, VU_T("Motor"), 3);     // hidden behind "Motors"
-    AddChild(&root, VU_T("motor\tINT"), 4); // a later sibling is still searched
-    EXPECT_EQ(4, root.FindNoCaseChildString(CString(VU_T("Motor")), true, 5, 1));
-    EXPECT_EQ(3, root.FindNoCaseChildString(CString(VU_T("Motor")), false, 5, 1))
-        << "without matchParents Motors is not a candidate, so its child is searched";
 }
 
 // ---- Visiting -------------------------------------------------------------------
