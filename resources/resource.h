@@ -19,3 +19,5 @@
 #define IDS_VU_ABORT 2014
 #define IDS_VU_IGNORE 2015
 #define IDS_VU_UNKNOWN 2016
+// Check images of the check-box tree list boxes (see tree/CheckImages.h)
+#define IDB_VU_CHECK_IMAGES 3336
