@@ -10,7 +10,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <string>
+#include "framework/Char.h"
 
 using namespace vu::checks;
 
@@ -23,7 +23,7 @@ struct CheckForest {
 
     explicit CheckForest(int n) {
         int handle = 0;
-        const auto make = [&](const std::u16string& text, CTreeNode* parent) {
+        const auto make = [&](const vu::String& text, CTreeNode* parent) {
             auto* node =
                 new CCheckboxTreeNode(CString(text.c_str()), -1, -1, ++handle, handle, parent);
             if (parent != nullptr) {
@@ -35,14 +35,14 @@ struct CheckForest {
             }
             return node;
         };
-        big = make(u"Program", nullptr);
+        big = make(VU_T("Program"), nullptr);
         for (int g = 0; g < 100; ++g) {
-            CTreeNode* group = make(u"Routine", big);
+            CTreeNode* group = make(VU_T("Routine"), big);
             for (int l = 0; l < n / 100 - 1; ++l)
-                lastLeaf = make(u"Tag_" + std::u16string(1, u'0' + l % 10), group);
+                lastLeaf = make(VU_T("Tag_") + vu::String(1, VU_T('0') + l % 10), group);
         }
         for (int i = 0; i < 50; ++i)
-            make(i == 25 ? u"Program" : u"Single", nullptr);
+            make(i == 25 ? VU_T("Program") : VU_T("Single"), nullptr);
     }
     ~CheckForest() {
         for (CTreeNode* root : roots)
