@@ -1,0 +1,179 @@
+// The check-box tree list boxes driven with real messages: check clicks in
+// and beside the check column, the space key with single and multiple
+// selection, and the images the rows draw.
+#include "TreeFixture.h"
+
+#include "tree/CheckImages.h"
+#include "tree/win/CheckBoxTreeListBox.h"
+#include "tree/win/CheckColumn.h"
+#include "tree/win/ExCheckBoxTreeListBox.h"
+
+namespace treetest {
+namespace {
+
+using vu::checklist::GetCheckColumnWidth;
+using Names = std::vector<CString>;
+
+template <class List> Names CheckedLeaves(List& list) {
+    CArray<CString, CString> names;
+    if constexpr (std::is_same_v<List, VU_CExCheckBoxTreeListBox>)
+        list.GetCheckedLeafItemNames(&names);
+    else
+        list.GetCheckedItemNames(&names);
+    return Names(names.begin(), names.end());
+}
+
+void Char(HWND hWnd, WCHAR ch) {
+    SendMessageW(hWnd, WM_CHAR, ch, 1);
+}
+
+// Rows: Group (expanded), a, b, Twin, Twin, a separator, a header, Single.
+template <class List> struct CheckList {
+    explicit CheckList(DWORD extraStyle = 0) {
+        EXPECT_TRUE(CreateList(list, parent, 300, 10, kTreeStyle | extraStyle));
+        int group = 0;
+        list.AddItem(S(L"Group"), -1, -1, 1, -1, &group);
+        list.AddItem(S(L"a"), -1, -1, 2, group, nullptr, true);
+        list.AddItem(S(L"b"), -1, -1, 3, group, nullptr, true);
+        list.AddItem(S(L"Twin"), -1, -1, 4);
+        list.AddItem(S(L"Twin"), -1, -1, 5);
+        list.AddSeparator();
+        list.AddHeader(S(L"Header"));
+        list.AddItem(S(L"Single"), -1, -1, 8);
+    }
+    ParentWindow parent;
+    List list;
+};
+
+// ---- Clicks and keys (propagating list) -------------------------------------
+
+TEST(ExCheckBoxTreeListBox, ClicksLeftOfTheCheckColumnEdgeToggleAndSelect) {
+    CheckList<VU_CExCheckBoxTreeListBox> t;
+    const int width = GetCheckColumnWidth();
+    ASSERT_GT(width, 1);
+    Click(t.list.m_hWnd, width, MidY(1)); // on the tree, not the box
+    EXPECT_EQ(Names{}, CheckedLeaves(t.list));
+    EXPECT_EQ(1, t.list.GetSelectedRow());
+    Click(t.list.m_hWnd, 0, MidY(1));
+    EXPECT_EQ(VU_CHECKIMAGE_SOME, t.list.GetCheckImage(0));
+    Click(t.list.m_hWnd, width - 1, MidY(2));
+    EXPECT_EQ(VU_CHECKIMAGE_ALL, t.list.GetCheckImage(0));
+    EXPECT_EQ(2, t.list.GetSelectedRow());
+    Click(t.list.m_hWnd, 0, MidY(0));
+    EXPECT_EQ(Names{}, CheckedLeaves(t.list)) << "a full parent clears its children";
+    EXPECT_EQ((RowList{L"Group", L"a", L"b", L"Twin", L"Twin", L"", L"Header", L"Single"}),
+              RowTexts(t.list.m_hWnd));
+}
+
+TEST(ExCheckBoxTreeListBox, SpaceTogglesTheSelectionAndTwinsOnlyWithSingleSelection) {
+    struct Case {
+        const char* name;
+        DWORD style;
+        std::vector<int> selected;
+        Names checked;
+    } cases[] = {
+        {"single selection: the row and its twin", 0, {3}, {L"Twin", L"Twin"}},
+        {"single selection on a header: nothing", 0, {6}, {}},
+        {"multiple: each row, no twin", LBS_MULTIPLESEL, {1, 3}, {L"a", L"Twin"}},
+        {"multiple: parent then child", LBS_MULTIPLESEL, {0, 2}, {L"a"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        CheckList<VU_CExCheckBoxTreeListBox> t(c.style);
+        for (int row : c.selected)
+            SendMessageW(t.list.m_hWnd, c.style ? LB_SETSEL : LB_SETCURSEL, c.style ? TRUE : row,
+                         row);
+        Key(t.list.m_hWnd, VK_SPACE);
+        Char(t.list.m_hWnd, L' ');
+        Char(t.list.m_hWnd, L'x');
+        EXPECT_EQ(c.checked, CheckedLeaves(t.list));
+    }
+}
+
+TEST(ExCheckBoxTreeListBox, HostOperationsCheckByTextClearAndReportItemData) {
+    CheckList<VU_CExCheckBoxTreeListBox> t;
+    CArray<CString, CString> texts;
+    texts.Add(S(L"Group"));
+    texts.Add(S(L"Single"));
+    t.list.CheckItems(&texts);
+    CArray<unsigned long, unsigned long> data;
+    t.list.FillSelNodes(&data);
+    EXPECT_EQ((std::vector<unsigned long>{2, 3, 8}),
+              std::vector<unsigned long>(data.begin(), data.end()));
+    CArray<CString, CString> singles;
+    t.list.GetCheckedSingleTopLevelItemNames(&singles);
+    EXPECT_EQ(Names{L"Single"}, Names(singles.begin(), singles.end()));
+    t.list.ClearAllChecks();
+    EXPECT_FALSE(t.list.IsAnyLeafChecked());
+    t.list.CheckAllItem();
+    EXPECT_EQ((Names{L"a", L"b", L"Twin", L"Twin", L"Single"}), CheckedLeaves(t.list));
+}
+
+// ---- Drawing --------------------------------------------------------------------
+
+COLORREF CheckInk(const ClientPicture& p, int row) {
+    return p.At(7, row * kRowHeight + 7); // the middle of the check image
+}
+
+TEST(ExCheckBoxTreeListBox, RowsDrawTheImageOfTheirStateAndSeparatorsTwoGreyLines) {
+    CheckList<VU_CExCheckBoxTreeListBox> t;
+    Click(t.list.m_hWnd, 0, MidY(1));
+    Click(t.list.m_hWnd, 0, MidY(7)); // Single, which gets the selection
+    {
+        ClientPicture p(t.list.m_hWnd);
+        EXPECT_EQ(RGB(70, 110, 170), CheckInk(p, 0)) << "partial square";
+        EXPECT_EQ(RGB(24, 24, 24), CheckInk(p, 1)) << "check mark";
+        EXPECT_EQ(RGB(250, 250, 250), CheckInk(p, 2)) << "empty box";
+        EXPECT_EQ(RGB(24, 24, 24), CheckInk(p, 7)) << "opaque on the selected row";
+        EXPECT_EQ(GetSysColor(COLOR_BTNFACE), CheckInk(p, 6)) << "no box on a header";
+        const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
+        for (int y : {6, 8})
+            EXPECT_EQ(grey, p.At(150, 5 * kRowHeight + y));
+        EXPECT_NE(grey, p.At(150, 5 * kRowHeight + 7));
+    }
+    t.list.IncludeParentChecks(false);
+    ClientPicture p(t.list.m_hWnd);
+    EXPECT_EQ(GetSysColor(COLOR_WINDOW), CheckInk(p, 0));
+    EXPECT_EQ(RGB(24, 24, 24), CheckInk(p, 1));
+}
+
+// ---- The two-state list ----------------------------------------------------------
+
+TEST(CheckBoxTreeListBox, ChecksStayOnTheirOwnRowsAndOnlyLeavesDrawABox) {
+    CheckList<VU_CCheckBoxTreeListBox> t;
+    Click(t.list.m_hWnd, 0, MidY(1));
+    Click(t.list.m_hWnd, 0, MidY(3));
+    EXPECT_EQ((Names{L"a", L"Twin"}), CheckedLeaves(t.list)) << "no twin, no parent";
+    t.list.SetCurSel(0);
+    Char(t.list.m_hWnd, L' ');
+    CArray<CString, CString> parents;
+    t.list.GetCheckedParentItemNames(&parents);
+    EXPECT_EQ(Names{L"Group"}, Names(parents.begin(), parents.end()));
+    EXPECT_TRUE(t.list.IsItemChecked(0));
+    EXPECT_FALSE(t.list.IsItemChecked(2));
+
+    t.list.SetCurSel(-1);
+    ClientPicture p(t.list.m_hWnd);
+    const auto boxInk = [&](int row) {
+        // Inside the row's edges, where a focus rectangle may lie.
+        return p
+            .InkSpan(row * kRowHeight + 1, (row + 1) * kRowHeight - 1, 1, GetSysColor(COLOR_WINDOW))
+            .first;
+    };
+    EXPECT_GE(boxInk(1), 0);
+    EXPECT_LT(boxInk(1), GetCheckColumnWidth()) << "a leaf draws its box in the column";
+    EXPECT_GE(boxInk(0), GetCheckColumnWidth()) << "a parent draws none";
+}
+
+TEST(CheckBoxTreeListBox, MultipleSelectionFlipsEverySelectedRow) {
+    CheckList<VU_CCheckBoxTreeListBox> t(LBS_MULTIPLESEL);
+    for (int row : {1, 2, 7})
+        SendMessageW(t.list.m_hWnd, LB_SETSEL, TRUE, row);
+    Click(t.list.m_hWnd, 0, MidY(2));
+    EXPECT_EQ((Names{L"a", L"b", L"Single"}), CheckedLeaves(t.list));
+    Char(t.list.m_hWnd, L' '); // the click unselected row 2
+    EXPECT_EQ(Names{L"b"}, CheckedLeaves(t.list));
+}
+
+} // namespace
+} // namespace treetest
