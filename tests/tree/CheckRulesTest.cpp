@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <vector>
 
 using namespace vu::checks;
 
