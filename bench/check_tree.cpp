@@ -63,6 +63,15 @@ void PlainCollectLeaves(CTreeNode* node, CArray<CString, CString>& names) {
         PlainCollectLeaves(node->GetChild(i), names);
 }
 
+bool PlainAnyChecked(CTreeNode* node) {
+    if (static_cast<CCheckboxTreeNode*>(node)->IsChecked())
+        return true;
+    for (int i = 0; i < node->GetNumberOfChildren(); ++i)
+        if (PlainAnyChecked(node->GetChild(i)))
+            return true;
+    return false;
+}
+
 constexpr int kGoalNodes = 10000;
 
 // ---- Toggles (10k nodes below the toggled parent) ---------------------------
@@ -106,6 +115,22 @@ void BM_IsAnyLeafChecked_NoneChecked(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(BM_IsAnyLeafChecked_NoneChecked)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMicrosecond);
+
+void BM_Peer_PlainWalkLookingForACheck(benchmark::State& state) {
+    CheckForest f(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        bool any = false;
+        for (CTreeNode* root : f.roots)
+            any = any || PlainAnyChecked(root);
+        benchmark::DoNotOptimize(any);
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(BM_Peer_PlainWalkLookingForACheck)
     ->RangeMultiplier(10)
     ->Range(1000, 100000)
     ->Complexity(benchmark::oN)
