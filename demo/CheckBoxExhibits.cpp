@@ -98,9 +98,12 @@ void CheckBoxLists(Context& c) {
     CrossReferenceTags(c, frame, list);
     ::SetFocus(tree.m_hWnd);
     c.Pump();
-    c.SaveWindowPng(tree.m_hWnd, L"ex_check_box_tree_list_box");
-    c.SaveWindowPng(list.m_hWnd, L"check_box_tree_list_box");
-    c.SaveClientPng(frame, L"check_box_lists");
+    c.SaveWindowPng(tree.m_hWnd, L"ex_check_box_tree_list_box",
+                    L"VU_CExCheckBoxTreeListBox: checks propagate; the filler is fully checked, "
+                    L"the capper partly, the labeler not at all");
+    c.SaveWindowPng(list.m_hWnd, L"check_box_tree_list_box",
+                    L"VU_CCheckBoxTreeListBox: two-state checks on the leaves only");
+    c.SaveClientPng(frame, L"check_box_lists", L"Both check-box lists side by side in one frame");
     tree.DestroyWindow();
     list.DestroyWindow();
     c.DestroyFrame(frame);
