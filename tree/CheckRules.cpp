@@ -1,6 +1,7 @@
 #include "tree/CheckRules.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 namespace vu::checks {
 namespace {
@@ -70,11 +71,16 @@ bool IsOfKind(const CTreeNode* node, CheckedKind kind) {
 // ---- Propagating rules ------------------------------------------------------
 
 CCheckboxTreeNode* AsCheckable(CTreeNode* node) {
-    return CarriesCheck(node) ? dynamic_cast<CCheckboxTreeNode*>(node) : nullptr;
+    return const_cast<CCheckboxTreeNode*>(AsCheckable(static_cast<const CTreeNode*>(node)));
 }
 
 const CCheckboxTreeNode* AsCheckable(const CTreeNode* node) {
-    return CarriesCheck(node) ? dynamic_cast<const CCheckboxTreeNode*>(node) : nullptr;
+    if (!CarriesCheck(node))
+        return nullptr;
+    // Nearly every node is of the class itself: compare the type before the full cast.
+    if (typeid(*node) == typeid(CCheckboxTreeNode))
+        return static_cast<const CCheckboxTreeNode*>(node);
+    return dynamic_cast<const CCheckboxTreeNode*>(node);
 }
 
 void SetCheckWithChildren(CTreeNode* node, bool state) {
