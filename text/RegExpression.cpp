@@ -69,6 +69,7 @@ VU_CRegExpression& VU_CRegExpression::operator=(VU_CRegExpression&& other) noexc
     m_foundText = std::move(other.m_foundText);
     m_startSet = std::move(other.m_startSet);
     m_sets = std::move(other.m_sets);
+    m_memoNodes = std::move(other.m_memoNodes);
     // The hint pointers point into the program, which moves with them.
     m_program = other.m_program;
     m_required = other.m_required;
@@ -106,6 +107,7 @@ void VU_CRegExpression::CopyFields(const VU_CRegExpression& other) {
     m_hasStartSet = other.m_hasStartSet;
     m_stepLimit = other.m_stepLimit;
     m_stepLimitExceeded = other.m_stepLimitExceeded;
+    m_memoThreshold = other.m_memoThreshold;
 }
 
 void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
@@ -113,6 +115,7 @@ void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
     m_foundText = other.m_foundText;
     m_startSet = other.m_startSet;
     m_sets = other.m_sets;
+    m_memoNodes = other.m_memoNodes;
     m_program = nullptr;
     m_required = m_firstLiteral = nullptr;
     if (other.m_program) {
@@ -577,11 +580,16 @@ bool VU_CRegExpression::CharRanges::ContainsAbove255(WCHAR c) const {
 
 // Records, for every set node, its members as ranges with a Latin-1 bitmap,
 // so that a membership test does not walk the operand.
+// Also lists the choice nodes (alternatives and repetitions), the places
+// where the failure memo records failed positions.
 void VU_CRegExpression::BuildSetInfo() {
     m_sets.clear();
+    m_memoNodes.clear();
     for (uint64_t at = 0; at < m_programSize;) {
         const WCHAR op = m_program[at];
         const WCHAR* operand = m_program + at + kNodeUnits;
+        if (op == OpAlternative || op == OpStar || op == OpPlus)
+            m_memoNodes.push_back(uint32_t(at));
         at += kNodeUnits;
         if (op != OpInSet && op != OpNotInSet && op != OpLiteral)
             continue;
@@ -711,6 +719,10 @@ int VU_CRegExpression::RegFind(const WCHAR* string) {
     }
     m_stringStart = string;
     m_stepsLeft = m_stepLimit ? m_stepLimit : ULLONG_MAX;
+    m_work = 0;
+    m_nextMemoCheck = m_memoThreshold;
+    m_memoOn = false;
+    m_textLengthKnown = false;
 
     const WCHAR* at = string;
     bool matched = false;
@@ -773,9 +785,79 @@ int VU_CRegExpression::RegFind(const WCHAR* string) {
         matched = false;
         ClearGroups();
     }
+    ReleaseScratch();
     if (!matched)
         return -1;
     return FinishMatch(at);
+}
+
+namespace {
+// Scratch kept between searches; anything larger is given back.
+constexpr size_t kKeptScratchBytes = 64 * 1024;
+
+template <class T> void ShrinkAbove(std::vector<T>& v, size_t bytes) {
+    if (v.capacity() * sizeof(T) > bytes)
+        std::vector<T>().swap(v);
+}
+} // namespace
+
+void VU_CRegExpression::ReleaseScratch() {
+    m_memoOn = false;
+    ShrinkAbove(m_stack, kKeptScratchBytes);
+    ShrinkAbove(m_memo, kKeptScratchBytes);
+}
+
+size_t VU_CRegExpression::GetScratchBytes() const {
+    return m_stack.capacity() * sizeof(uint32_t) + m_memo.capacity() * sizeof(uint64_t);
+}
+
+// Called when the work of the search reaches nextCheck: switches the memo on
+// once the work exceeds the threshold plus a linear allowance for the text,
+// and sets the next check.
+void VU_CRegExpression::ConsiderFailureMemo(unsigned long long work,
+                                            unsigned long long& nextCheck) {
+    nextCheck = ULLONG_MAX;
+    if (m_memoOn || m_memoNodes.empty())
+        return;
+    if (!m_textLengthKnown) {
+        m_textLength = VU_CRegExpScan::Length(m_stringStart);
+        m_textLengthKnown = true;
+    }
+    const unsigned long long positions = m_textLength + 1ull;
+    unsigned long long due = 0;
+    if (m_memoThreshold != 0) {
+        const unsigned long long allowance =
+            positions > ULLONG_MAX / 16 ? ULLONG_MAX / 2 : positions * 8;
+        due = m_memoThreshold > ULLONG_MAX - allowance ? ULLONG_MAX : m_memoThreshold + allowance;
+    }
+    if (work < due) {
+        nextCheck = due;
+        return;
+    }
+    if (positions > kMaxMemoBits / m_memoNodes.size())
+        return; // too large to record: the search goes on without the memo
+    try {
+        m_memo.assign(size_t((positions * m_memoNodes.size() + 63) / 64), 0);
+    } catch (const std::bad_alloc&) {
+        return;
+    }
+    m_memoOn = true;
+}
+
+// Whether the pair (node, at) has been entered before in this search, which
+// (no path returns to a pair without consuming text) means it failed; marks
+// it entered.
+bool VU_CRegExpression::TestAndSetFailed(const WCHAR* node, const WCHAR* at) {
+    const uint32_t offset = uint32_t(node - m_program);
+    const size_t slot = size_t(std::lower_bound(m_memoNodes.begin(), m_memoNodes.end(), offset) -
+                               m_memoNodes.begin());
+    const uint64_t bit = uint64_t(at - m_stringStart) * m_memoNodes.size() + slot;
+    uint64_t& word = m_memo[size_t(bit >> 6)];
+    const uint64_t mask = uint64_t(1) << (bit & 63);
+    if (word & mask)
+        return true;
+    word |= mask;
+    return false;
 }
 
 int VU_CRegExpression::FinishMatch(const WCHAR* position) {
@@ -815,6 +897,24 @@ bool VU_CRegExpression::TryAt(const WCHAR* position) {
     m_groupStart[0] = position;
     m_groupEnd[0] = m_input;
     return true;
+}
+
+// Whether the single-character node `simple` accepts c (never the NUL).
+bool VU_CRegExpression::MatchesOne(const WCHAR* simple, WCHAR c) const {
+    if (!c)
+        return false;
+    switch (OpOf(simple)) {
+    case OpAnyChar:
+        return true;
+    case OpLiteral:
+        return *OperandOf(simple) == c;
+    case OpInSet:
+        return InSet(simple, c);
+    case OpNotInSet:
+        return !InSet(simple, c);
+    default:
+        return false;
+    }
 }
 
 size_t VU_CRegExpression::CountRepeat(const WCHAR* node, const WCHAR* at) const {
@@ -879,13 +979,21 @@ const WCHAR* VU_CRegExpression::SkipDeadAlternatives(const WCHAR* alt, WCHAR c) 
 //   choice of the remaining alternatives  [alt offset:26][distance:4][0]
 //   group boundary passed                 [distance:25][slot:5][2]
 //   choice of shorter repetitions         [count:64][distance:64][node offset:30][1]
+//   choice to stop a repetition here      [node offset:26][distance:4][3]
+// (the last only while the failure memo is on: repetitions then take one
+// character per step and leave this record before each).
 // A distance field of all ones means the distance follows in the two words
 // below the header. A failure pops back to the latest choice. On success the
 // group positions are read from the boundary records, the latest per group
 // winning, which is what the recursive matcher records while it returns.
 namespace {
 
-enum RecordKind : uint32_t { kBranchRecord = 0, kRepeatRecord = 1, kGroupRecord = 2 };
+enum RecordKind : uint32_t {
+    kBranchRecord = 0,
+    kRepeatRecord = 1,
+    kGroupRecord = 2,
+    kStopRecord = 3
+};
 constexpr uint32_t kBranchDistanceEscape = 15;
 constexpr uint32_t kGroupDistanceEscape = (1u << 25) - 1;
 
@@ -919,6 +1027,7 @@ inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
         }
         break;
     case kBranchRecord:
+    case kStopRecord:
         r.payload = (header >> 2) & ((1u << 26) - 1);
         r.distance = header >> 28;
         if (r.distance == kBranchDistanceEscape) {
@@ -943,12 +1052,20 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
     std::vector<uint32_t>& stack = m_stack;
     stack.clear();
     unsigned long long steps = m_stepsLeft;
+    unsigned long long work = m_work;
+    unsigned long long nextCheck = m_nextMemoCheck;
     const WCHAR* in = m_input;
     const WCHAR* node = start;
     uint64_t top = uint64_t(in - base); // position of the top record
 
     auto offsetOf = [program](const WCHAR* p) { return uint32_t(p - program); };
-    auto pushBranch = [&](const WCHAR* alt, uint64_t pos) {
+    auto leave = [&](MatchResult result) {
+        m_stepsLeft = result == MatchResult::OutOfSteps ? 0 : steps;
+        m_work = work;
+        m_nextMemoCheck = nextCheck;
+        return result;
+    };
+    auto pushChoice = [&](RecordKind kind, const WCHAR* alt, uint64_t pos) {
         const uint64_t distance = pos - top;
         top = pos;
         uint32_t field = uint32_t(distance);
@@ -956,8 +1073,9 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
             PushWide(stack, distance);
             field = kBranchDistanceEscape;
         }
-        stack.push_back(kBranchRecord | offsetOf(alt) << 2 | field << 28);
+        stack.push_back(kind | offsetOf(alt) << 2 | field << 28);
     };
+    auto pushBranch = [&](const WCHAR* alt, uint64_t pos) { pushChoice(kBranchRecord, alt, pos); };
     auto pushGroup = [&](uint32_t slot, uint64_t pos) {
         const uint64_t distance = pos - top;
         top = pos;
@@ -979,10 +1097,10 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
         // ---- advance along the program until success or failure
         bool failed = false;
         while (!failed) {
-            if (--steps == 0) {
-                m_stepsLeft = 0;
-                return MatchResult::OutOfSteps;
-            }
+            if (--steps == 0)
+                return leave(MatchResult::OutOfSteps);
+            if (++work >= nextCheck)
+                ConsiderFailureMemo(work, nextCheck);
             if (!node) {
                 failed = true;
                 break;
@@ -1033,6 +1151,10 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
             case OpLoopBack:
                 break;
             case OpAlternative: {
+                if (m_memoOn && TestAndSetFailed(node, in)) {
+                    failed = true;
+                    break;
+                }
                 if (!next || OpOf(next) != OpAlternative) {
                     next = OperandOf(node); // a single choice
                     break;
@@ -1054,13 +1176,42 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
             case OpPlus: {
                 const size_t minimum = op == OpStar ? 0 : 1;
                 const WCHAR lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
+                if (m_memoOn) {
+                    // One character per step; before each, the choice to stop
+                    // here, which the greedy order tries after the longer runs.
+                    const WCHAR* simple = OperandOf(node);
+                    if (op == OpPlus) {
+                        if (!MatchesOne(simple, *in)) {
+                            failed = true;
+                            break;
+                        }
+                        ++in;
+                    }
+                    for (;;) {
+                        if (TestAndSetFailed(node, in)) {
+                            failed = true;
+                            break;
+                        }
+                        const bool canStop = !lookAhead || *in == lookAhead;
+                        if (!MatchesOne(simple, *in)) {
+                            failed = !canStop;
+                            break;
+                        }
+                        if (canStop)
+                            pushChoice(kStopRecord, node, uint64_t(in - base));
+                        ++in;
+                        ++work;
+                        if (--steps == 0)
+                            return leave(MatchResult::OutOfSteps);
+                    }
+                    break;
+                }
                 const size_t count = CountRepeat(OperandOf(node), in);
+                work += count;
                 if (m_stepLimit) {
                     const unsigned long long cost = count >> 4;
-                    if (cost >= steps) {
-                        m_stepsLeft = 0;
-                        return MatchResult::OutOfSteps;
-                    }
+                    if (cost >= steps)
+                        return leave(MatchResult::OutOfSteps);
                     steps -= cost;
                 }
                 if (node == OperandOf(program) && in == m_input) {
@@ -1104,8 +1255,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
                     end -= r.words;
                 }
                 m_input = in;
-                m_stepsLeft = steps;
-                return MatchResult::Match;
+                return leave(MatchResult::Match);
             }
             default:
                 if (op > OpGroupOpen && op < OpGroupOpen + kGroupCount)
@@ -1123,14 +1273,11 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
         // ---- backtrack to the latest choice
         bool resumed = false;
         while (!resumed) {
-            if (stack.empty()) {
-                m_stepsLeft = steps;
-                return MatchResult::Fail;
-            }
-            if (--steps == 0) {
-                m_stepsLeft = 0;
-                return MatchResult::OutOfSteps;
-            }
+            if (stack.empty())
+                return leave(MatchResult::Fail);
+            if (--steps == 0)
+                return leave(MatchResult::OutOfSteps);
+            ++work;
             const Record r = DecodeRecord(stack, stack.size());
             const uint64_t pos = top;
             if (r.kind == kGroupRecord) {
@@ -1149,6 +1296,14 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
                 if (rest)
                     pushBranch(rest, pos);
                 node = OperandOf(alt);
+                resumed = true;
+                continue;
+            }
+            if (r.kind == kStopRecord) {
+                stack.resize(stack.size() - r.words);
+                top = pos - r.distance;
+                in = base + pos;
+                node = NextNode(program + r.payload);
                 resumed = true;
                 continue;
             }

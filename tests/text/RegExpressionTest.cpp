@@ -531,8 +531,8 @@ TEST(RegExpressionProgram, SearchHints) {
 TEST(RegExpressionSteps, BudgetStopsARunawaySearch) {
     VU_CRegExpression re;
     ASSERT_NE(re.RegComp(VU_T("(a|aa)*[b]")), nullptr);
-    const vu::String text(60, VU_T('a')); // exponential without a budget
-    re.SetStepLimit(200000);
+    const vu::String text(60, VU_T('a'));
+    re.SetStepLimit(500);
     EXPECT_EQ(re.RegFind(text.c_str()), -1);
     EXPECT_TRUE(re.IsStepLimitExceeded());
     EXPECT_EQ(re.GetFindLen(), 0);
