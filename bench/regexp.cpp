@@ -358,8 +358,9 @@ void RegisterAll() {
         benchmark::RegisterBenchmark((name + "/StdWregex").c_str(), StdText, c);
     }
     // PCRE2 runs only the sizes it finishes within a few seconds.
-    const std::vector<int64_t> trapSizes[] = {
-        {1000, 10'000, 100'000, 10'000'000}, {1000, 3000, 10'000, 100'000}, {16, 20, 24, 40, 10'000}};
+    const std::vector<int64_t> trapSizes[] = {{1000, 10'000, 100'000, 10'000'000},
+                                              {1000, 3000, 10'000, 100'000},
+                                              {16, 20, 24, 40, 10'000}};
     const int64_t pcre2Sizes[] = {100'000, 3000, 24};
     for (size_t i = 0; i < std::size(kTraps); ++i) {
         const std::string trap = kTraps[i].name;
