@@ -224,31 +224,13 @@ TEST(RegExpressionMatcher, AgreesWithTheReferenceWhereChoicesLieFarApart) {
     const WCHAR* patterns[] = {VU_T("a?c*d?e"),       VU_T("(c*)(d|dc)a"),
                                VU_T("x*(c+)(d|dd)b"), VU_T("([abc]*)(a|b)*d"),
                                VU_T("(.)*-(a|b)?"),   VU_T("b?[^d]*(d|da)+")};
-    // Backtracking over a choice 20 units above the record below it.
-    const vu::String c20(20, VU_T('c'));
-    const std::pair<vu::String, vu::String> pairs[] = {
-        {VU_T("(a?)") + c20 + VU_T("d?(e|dx)"), VU_T("a") + c20 + VU_T("dx")},
-        {VU_T("(a?)") + c20 + VU_T("d?(e|dx)"), VU_T("-") + c20 + VU_T("dx")},
-        {VU_T("(b|a)") + c20 + VU_T("(d|dx)?y"), VU_T("a") + c20 + VU_T("dxy")},
-    };
-    for (const auto& [pattern, text] : pairs) {
-        SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
-        VU_CRegExpression re;
-        ASSERT_NE(re.RegComp(pattern.c_str()), nullptr);
-        ReferenceMatcher reference(re.GetProgram());
-        const int expected = reference.Find(text.c_str());
-        ASSERT_GE(expected, 0);
-        ASSERT_EQ(re.RegFind(text.c_str()), expected);
-        for (int n = 0; n < 10; ++n) {
-            EXPECT_EQ(re.GetGroupStart(n), reference.Start(n)) << "group " << n;
-            EXPECT_EQ(re.GetGroupEnd(n), reference.End(n)) << "group " << n;
-        }
-    }
     RegExpressionPatternGenerator gen(5);
-    for (const WCHAR* pattern : patterns) {
+    for (int i = 0; i < 2 * int(std::size(patterns)); ++i) {
+        const WCHAR* pattern = patterns[i / 2];
         VU_CRegExpression re;
         ASSERT_NE(re.RegComp(pattern), nullptr);
-        re.SetFailureMemoThreshold(0); // the memo's records also lie far apart
+        if (i % 2)
+            re.SetFailureMemoThreshold(0); // the memo's records lie far apart too
         ReferenceMatcher reference(re.GetProgram());
         for (int t = 0; t < 300; ++t) {
             vu::String text = gen.Text(60);
