@@ -34,6 +34,8 @@ size_t OperandLength(const WCHAR* operand) {
 constexpr uint64_t kMaxProgramUnits = uint64_t(1) << 26;
 // The start-set analysis is skipped for programs above this size.
 constexpr uint64_t kMaxAnalysedUnits = uint64_t(1) << 20;
+// Matcher scratch kept between searches; anything larger is given back.
+constexpr size_t kKeptScratchBytes = 64 * 1024;
 
 } // namespace
 
@@ -719,8 +721,11 @@ int VU_CRegExpression::RegFind(const WCHAR* string) {
     }
     m_stringStart = string;
     m_stepsLeft = m_stepLimit ? m_stepLimit : ULLONG_MAX;
-    m_work = 0;
-    m_nextMemoCheck = m_memoThreshold;
+    // Armed at threshold steps from now (at once for 0); never armed when
+    // the budget runs out first.
+    m_memoTrigger = m_memoNodes.empty() || m_memoThreshold >= m_stepsLeft
+                        ? 0
+                        : std::max(m_stepsLeft - m_memoThreshold - 1, 1ull);
     m_memoOn = false;
     m_textLengthKnown = false;
 
@@ -785,55 +790,47 @@ int VU_CRegExpression::RegFind(const WCHAR* string) {
         matched = false;
         ClearGroups();
     }
-    ReleaseScratch();
+    m_memoOn = false;
+    if (m_stack.capacity() > kKeptScratchBytes / sizeof(uint32_t) ||
+        m_memo.capacity() > kKeptScratchBytes / sizeof(uint64_t))
+        ReleaseScratch();
     if (!matched)
         return -1;
     return FinishMatch(at);
 }
 
-namespace {
-// Scratch kept between searches; anything larger is given back.
-constexpr size_t kKeptScratchBytes = 64 * 1024;
-
-template <class T> void ShrinkAbove(std::vector<T>& v, size_t bytes) {
-    if (v.capacity() * sizeof(T) > bytes)
-        std::vector<T>().swap(v);
-}
-} // namespace
-
 void VU_CRegExpression::ReleaseScratch() {
-    m_memoOn = false;
-    ShrinkAbove(m_stack, kKeptScratchBytes);
-    ShrinkAbove(m_memo, kKeptScratchBytes);
+    if (m_stack.capacity() > kKeptScratchBytes / sizeof(uint32_t))
+        std::vector<uint32_t>().swap(m_stack);
+    if (m_memo.capacity() > kKeptScratchBytes / sizeof(uint64_t))
+        std::vector<uint64_t>().swap(m_memo);
 }
 
 size_t VU_CRegExpression::GetScratchBytes() const {
     return m_stack.capacity() * sizeof(uint32_t) + m_memo.capacity() * sizeof(uint64_t);
 }
 
-// Called when the work of the search reaches nextCheck: switches the memo on
-// once the work exceeds the threshold plus a linear allowance for the text,
-// and sets the next check.
-void VU_CRegExpression::ConsiderFailureMemo(unsigned long long work,
-                                            unsigned long long& nextCheck) {
-    nextCheck = ULLONG_MAX;
-    if (m_memoOn || m_memoNodes.empty())
+// Called when the step counter falls to the trigger, that is when the work
+// (steps taken plus characters scanned) reaches the threshold: switches the
+// memo on once the work also exceeds a linear allowance for the text, else
+// moves the trigger to that point.
+[[gnu::noinline]] void VU_CRegExpression::ConsiderFailureMemo(unsigned long long steps,
+                                                              unsigned long long& trigger) {
+    if (m_memoOn)
         return;
     if (!m_textLengthKnown) {
         m_textLength = VU_CRegExpScan::Length(m_stringStart);
         m_textLengthKnown = true;
+        const unsigned long long positions = m_textLength + 1ull;
+        const unsigned long long allowance = m_memoThreshold == 0          ? 0
+                                             : positions > ULLONG_MAX / 16 ? ULLONG_MAX
+                                                                           : positions * 8;
+        trigger = trigger > allowance ? trigger - allowance : 0;
+        if (steps > trigger)
+            return; // not yet; the trigger now includes the allowance (0: never)
     }
+    trigger = 0;
     const unsigned long long positions = m_textLength + 1ull;
-    unsigned long long due = 0;
-    if (m_memoThreshold != 0) {
-        const unsigned long long allowance =
-            positions > ULLONG_MAX / 16 ? ULLONG_MAX / 2 : positions * 8;
-        due = m_memoThreshold > ULLONG_MAX - allowance ? ULLONG_MAX : m_memoThreshold + allowance;
-    }
-    if (work < due) {
-        nextCheck = due;
-        return;
-    }
     if (positions > kMaxMemoBits / m_memoNodes.size())
         return; // too large to record: the search goes on without the memo
     try {
@@ -847,7 +844,7 @@ void VU_CRegExpression::ConsiderFailureMemo(unsigned long long work,
 // Whether the pair (node, at) has been entered before in this search, which
 // (no path returns to a pair without consuming text) means it failed; marks
 // it entered.
-bool VU_CRegExpression::TestAndSetFailed(const WCHAR* node, const WCHAR* at) {
+[[gnu::noinline]] bool VU_CRegExpression::TestAndSetFailed(const WCHAR* node, const WCHAR* at) {
     const uint32_t offset = uint32_t(node - m_program);
     const size_t slot = size_t(std::lower_bound(m_memoNodes.begin(), m_memoNodes.end(), offset) -
                                m_memoNodes.begin());
@@ -1044,7 +1041,48 @@ inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
     return r;
 }
 
+// A choice record (branch or stop) for the node at `offset`, input at pos.
+inline void PushChoice(std::vector<uint32_t>& stack, uint64_t& top, RecordKind kind,
+                       uint32_t offset, uint64_t pos) {
+    const uint64_t distance = pos - top;
+    top = pos;
+    uint32_t field = uint32_t(distance);
+    if (distance >= kBranchDistanceEscape) {
+        PushWide(stack, distance);
+        field = kBranchDistanceEscape;
+    }
+    stack.push_back(kind | offset << 2 | field << 28);
+}
+
 } // namespace
+
+// A repetition while the failure memo is on: one character per step, with
+// before each the choice to stop there, which the greedy order tries after
+// the longer runs. Match means: go on to the next node at `in`. Kept out of
+// MatchFrom so that the plain path stays small.
+[[gnu::noinline]] VU_CRegExpression::MatchResult
+VU_CRegExpression::RepeatOneByOne(const WCHAR* node, WCHAR lookAhead, const WCHAR*& in,
+                                  uint64_t& top, unsigned long long& steps) {
+    const WCHAR* simple = OperandOf(node);
+    if (OpOf(node) == OpPlus) {
+        if (!MatchesOne(simple, *in))
+            return MatchResult::Fail;
+        ++in;
+    }
+    for (;;) {
+        if (TestAndSetFailed(node, in))
+            return MatchResult::Fail;
+        const bool canStop = !lookAhead || *in == lookAhead;
+        if (!MatchesOne(simple, *in))
+            return canStop ? MatchResult::Match : MatchResult::Fail;
+        if (canStop)
+            PushChoice(m_stack, top, kStopRecord, uint32_t(node - m_program),
+                       uint64_t(in - m_stringStart));
+        ++in;
+        if (--steps == 0)
+            return MatchResult::OutOfSteps;
+    }
+}
 
 VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) {
     const WCHAR* const base = m_stringStart;
@@ -1052,8 +1090,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
     std::vector<uint32_t>& stack = m_stack;
     stack.clear();
     unsigned long long steps = m_stepsLeft;
-    unsigned long long work = m_work;
-    unsigned long long nextCheck = m_nextMemoCheck;
+    unsigned long long trigger = m_memoTrigger;
     const WCHAR* in = m_input;
     const WCHAR* node = start;
     uint64_t top = uint64_t(in - base); // position of the top record
@@ -1061,21 +1098,12 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
     auto offsetOf = [program](const WCHAR* p) { return uint32_t(p - program); };
     auto leave = [&](MatchResult result) {
         m_stepsLeft = result == MatchResult::OutOfSteps ? 0 : steps;
-        m_work = work;
-        m_nextMemoCheck = nextCheck;
+        m_memoTrigger = trigger;
         return result;
     };
-    auto pushChoice = [&](RecordKind kind, const WCHAR* alt, uint64_t pos) {
-        const uint64_t distance = pos - top;
-        top = pos;
-        uint32_t field = uint32_t(distance);
-        if (distance >= kBranchDistanceEscape) {
-            PushWide(stack, distance);
-            field = kBranchDistanceEscape;
-        }
-        stack.push_back(kind | offsetOf(alt) << 2 | field << 28);
+    auto pushBranch = [&](const WCHAR* alt, uint64_t pos) {
+        PushChoice(stack, top, kBranchRecord, offsetOf(alt), pos);
     };
-    auto pushBranch = [&](const WCHAR* alt, uint64_t pos) { pushChoice(kBranchRecord, alt, pos); };
     auto pushGroup = [&](uint32_t slot, uint64_t pos) {
         const uint64_t distance = pos - top;
         top = pos;
@@ -1097,10 +1125,11 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
         // ---- advance along the program until success or failure
         bool failed = false;
         while (!failed) {
-            if (--steps == 0)
-                return leave(MatchResult::OutOfSteps);
-            if (++work >= nextCheck)
-                ConsiderFailureMemo(work, nextCheck);
+            if (--steps <= trigger) {
+                if (steps == 0)
+                    return leave(MatchResult::OutOfSteps);
+                ConsiderFailureMemo(steps, trigger);
+            }
             if (!node) {
                 failed = true;
                 break;
@@ -1177,37 +1206,15 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
                 const size_t minimum = op == OpStar ? 0 : 1;
                 const WCHAR lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
                 if (m_memoOn) {
-                    // One character per step; before each, the choice to stop
-                    // here, which the greedy order tries after the longer runs.
-                    const WCHAR* simple = OperandOf(node);
-                    if (op == OpPlus) {
-                        if (!MatchesOne(simple, *in)) {
-                            failed = true;
-                            break;
-                        }
-                        ++in;
-                    }
-                    for (;;) {
-                        if (TestAndSetFailed(node, in)) {
-                            failed = true;
-                            break;
-                        }
-                        const bool canStop = !lookAhead || *in == lookAhead;
-                        if (!MatchesOne(simple, *in)) {
-                            failed = !canStop;
-                            break;
-                        }
-                        if (canStop)
-                            pushChoice(kStopRecord, node, uint64_t(in - base));
-                        ++in;
-                        ++work;
-                        if (--steps == 0)
-                            return leave(MatchResult::OutOfSteps);
-                    }
+                    const MatchResult r = RepeatOneByOne(node, lookAhead, in, top, steps);
+                    if (r == MatchResult::OutOfSteps)
+                        return leave(r);
+                    failed = r == MatchResult::Fail;
                     break;
                 }
                 const size_t count = CountRepeat(OperandOf(node), in);
-                work += count;
+                if (trigger) // the characters scanned count as work
+                    trigger += std::min<unsigned long long>(count, ULLONG_MAX - trigger);
                 if (m_stepLimit) {
                     const unsigned long long cost = count >> 4;
                     if (cost >= steps)
@@ -1277,7 +1284,6 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
                 return leave(MatchResult::Fail);
             if (--steps == 0)
                 return leave(MatchResult::OutOfSteps);
-            ++work;
             const Record r = DecodeRecord(stack, stack.size());
             const uint64_t pos = top;
             if (r.kind == kGroupRecord) {

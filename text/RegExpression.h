@@ -175,8 +175,10 @@ private:
     const SetInfo* FindSetInfo(const WCHAR* node) const;
     const WCHAR* SkipDeadAlternatives(const WCHAR* alt, WCHAR c) const;
     bool MatchesOne(const WCHAR* simple, WCHAR c) const;
+    MatchResult RepeatOneByOne(const WCHAR* node, WCHAR lookAhead, const WCHAR*& in, uint64_t& top,
+                               unsigned long long& steps);
     // Failure memo
-    void ConsiderFailureMemo(unsigned long long work, unsigned long long& nextCheck);
+    void ConsiderFailureMemo(unsigned long long steps, unsigned long long& trigger);
     bool TestAndSetFailed(const WCHAR* node, const WCHAR* at);
     void ReleaseScratch();
 
@@ -233,11 +235,13 @@ private:
 
     // Failure memo: one bit per (choice node, text position) pair
     unsigned long long m_memoThreshold = kDefaultMemoThreshold;
-    std::vector<uint32_t> m_memoNodes;      // offsets of the choice nodes, ascending
-    std::vector<uint64_t> m_memo;           // bit pos * m_memoNodes.size() + slot
-    bool m_memoOn = false;                  // set during a search that needs it
-    bool m_textLengthKnown = false;         // m_textLength is valid for this search
-    size_t m_textLength = 0;                // units of the searched string
-    unsigned long long m_work = 0;          // work of the current search so far
-    unsigned long long m_nextMemoCheck = 0; // work at which to consider the memo
+    std::vector<uint32_t> m_memoNodes; // offsets of the choice nodes, ascending
+    std::vector<uint64_t> m_memo;      // bit pos * m_memoNodes.size() + slot
+    bool m_memoOn = false;             // set during a search that needs it
+    bool m_textLengthKnown = false;    // m_textLength is valid for this search
+    size_t m_textLength = 0;           // units of the searched string
+    // The memo is considered when the step counter falls to m_memoTrigger
+    // (0: not armed). Characters scanned by repetitions raise the trigger, so
+    // that they count as work without a second counter on every node.
+    unsigned long long m_memoTrigger = 0;
 };
