@@ -158,41 +158,36 @@ TEST(SoftBreaksWrap, RewrapsAndKeepsTheSelection) {
 // ---- Searching across soft breaks ------------------------------------------------------
 
 TEST(SoftBreaksSearch, PositionsCountTheTextWithoutBreaks) {
-    // Found in "abcd"; the selection then moves past the break put back.
+    // Found in "abcd"; the selection then moves past the break put back. The
+    // property test compares the text forms with the unwrapped text.
+    // op: F Find, f Find(ch), n FindNoCase(ch), r ReverseFind(ch),
+    //     Q ReverseFindNoCase, q ReverseFindNoCase(ch), N FindN, X FindRegularExp
     const struct {
-        const char* name;
-        int (*search)(Soft&);
+        char op;
+        const WCHAR* what;
         int found;
         Selection selection;
-    } rows[] = {
-        {"Find text", [](Soft& s) { return s.Find(VU_T("bc")); }, 1, {1, 6}},
-        {"Find char", [](Soft& s) { return s.Find(VU_T('d')); }, 3, {6, 7}},
-        {"FindNoCase text", [](Soft& s) { return s.FindNoCase(VU_T("BC")); }, 1, {1, 6}},
-        {"FindNoCase char", [](Soft& s) { return s.FindNoCase(VU_T('C')); }, 2, {2, 6}},
-        {"ReverseFind text", [](Soft& s) { return s.ReverseFind(VU_T("b")); }, 1, {1, 5}},
-        {"ReverseFind char", [](Soft& s) { return s.ReverseFind(VU_T('c')); }, 2, {2, 6}},
-        {"ReverseFindNoCase text",
-         [](Soft& s) { return s.ReverseFindNoCase(VU_T("CD")); },
-         2,
-         {2, 7}},
-        {"ReverseFindNoCase char",
-         [](Soft& s) { return s.ReverseFindNoCase(VU_T('A')); },
-         0,
-         {0, 1}},
-        {"absent", [](Soft& s) { return s.Find(VU_T("x")); }, -1, {-1, -1}},
-        {"FindN on the text as it stands",
-         [](Soft& s) { return s.FindN(VU_T('c'), 0, 10); },
-         5,
-         {5, 6}},
-        {"FindN absent: the length", [](Soft& s) { return s.FindN(VU_T('z'), 0, 10); }, 7, {7, 7}},
-        // The regular expression search returns the selection start.
-        {"FindRegularExp", [](Soft& s) { return s.FindRegularExp(VU_T("c.")); }, 2, {2, 6}},
-        {"FindRegularExp absent", [](Soft& s) { return s.FindRegularExp(VU_T("z")); }, 7, {7, 7}},
-    };
+    } rows[] = {{'F', VU_T("bc"), 1, {1, 6}},   {'f', VU_T("d"), 3, {6, 7}},
+                {'n', VU_T("C"), 2, {2, 6}},    {'r', VU_T("c"), 2, {2, 6}},
+                {'Q', VU_T("CD"), 2, {2, 7}},   {'q', VU_T("A"), 0, {0, 1}},
+                {'F', VU_T("x"), -1, {-1, -1}}, // absent
+                {'N', VU_T("c"), 5, {5, 6}},    // on the text as it stands
+                {'N', VU_T("z"), 7, {7, 7}},    // absent: the length
+                {'X', VU_T("c."), 2, {2, 6}},   // returns the selection start
+                {'X', VU_T("z"), 7, {7, 7}}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(testing::Message() << row.op << " " << char(row.what[0]));
         Soft s(VU_T("ab\r\r\ncd"));
-        EXPECT_EQ(row.search(s), row.found);
+        const WCHAR c = row.what[0];
+        const int found = row.op == 'F'   ? s.Find(row.what)
+                          : row.op == 'f' ? s.Find(c)
+                          : row.op == 'n' ? s.FindNoCase(c)
+                          : row.op == 'r' ? s.ReverseFind(c)
+                          : row.op == 'Q' ? s.ReverseFindNoCase(row.what)
+                          : row.op == 'q' ? s.ReverseFindNoCase(c)
+                          : row.op == 'N' ? s.FindN(c, 0, 10)
+                                          : s.FindRegularExp(row.what);
+        EXPECT_EQ(found, row.found);
         EXPECT_EQ(SelectionOf(s), row.selection);
         EXPECT_EQ(s.Str(), VU_T("ab\r\r\ncd")) << "the soft break stays in place";
     }
