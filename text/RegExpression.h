@@ -93,7 +93,8 @@ public:
     // Step budget: 0 (the default) means unlimited. When a search runs out of
     // steps RegFind returns -1 and IsStepLimitExceeded() is true until the
     // next search. A step is one node visited or one backtrack; scanning a
-    // repetition costs one step per 16 characters.
+    // repetition costs one step per 16 characters (per character while the
+    // failure memo is on).
     void SetStepLimit(unsigned long long limit) { m_stepLimit = limit; }
     unsigned long long GetStepLimit() const { return m_stepLimit; }
     bool IsStepLimitExceeded() const { return m_stepLimitExceeded; }
@@ -101,7 +102,7 @@ public:
     // Failure memo: it is switched on when a search's work (nodes visited,
     // backtracks and characters scanned by repetitions) passes this threshold
     // plus eight per character of the text, so ordinary searches never pay
-    // for it. 0 switches it on at the first choice (tests use that to check
+    // for it. 0 switches it on at the first node (tests use that to check
     // that the memo changes no result). A text x program bitmap above
     // kMaxMemoBits is not allocated; such a search runs without the memo.
     static constexpr unsigned long long kDefaultMemoThreshold = 1ull << 16;
