@@ -101,8 +101,8 @@ public:
 
     // Failure memo: it is switched on when a search's work (nodes visited,
     // backtracks and characters scanned by repetitions) passes this threshold
-    // plus eight per character of the text, so ordinary searches never pay
-    // for it. 0 switches it on at the first node (tests use that to check
+    // plus eight per character of the text, so ordinary searches never
+    // allocate it. 0 switches it on at the first node (tests use that to check
     // that the memo changes no result). A text x program bitmap above
     // kMaxMemoBits is not allocated; such a search runs without the memo.
     static constexpr unsigned long long kDefaultMemoThreshold = 1ull << 16;
