@@ -28,32 +28,32 @@ namespace {
 
 struct Case {
     const char* name;
-    const char16_t* pattern;
+    const WCHAR* pattern;
 };
 
 // Whole-text searches. The absent literal occurs nowhere in the corpus, the
 // rare one a few dozen times.
 const Case kTextCases[] = {
-    {"AbsentLiteral", u"Xylophone"},
-    {"RareLiteral", u"Larry Wall"},
-    {"Alternation", u"Tom|Sawyer|Huckleberry|Finn"},
-    {"LettersIng", u"[a-zA-Z]+ing"},
+    {"AbsentLiteral", VU_T("Xylophone")},
+    {"RareLiteral", VU_T("Larry Wall")},
+    {"Alternation", VU_T("Tom|Sawyer|Huckleberry|Finn")},
+    {"LettersIng", VU_T("[a-zA-Z]+ing")},
 };
 // One search per line over the first 200k lines.
-const Case kLineCase = {"AnchoredPerLine", u"^[A-Z][a-z]+ [a-z]+"};
+const Case kLineCase = {"AnchoredPerLine", VU_T("^[A-Z][a-z]+ [a-z]+")};
 constexpr size_t kLines = 200'000;
 
-const std::u16string& Text() {
-    static const std::u16string text = vu::bench::LoadEnglishCorpus();
+const vu::String& Text() {
+    static const vu::String text = vu::bench::LoadEnglishCorpus();
     return text;
 }
 
-const std::vector<std::u16string>& Lines() {
-    static const std::vector<std::u16string> lines = vu::bench::SplitLines(Text(), kLines);
+const std::vector<vu::String>& Lines() {
+    static const std::vector<vu::String> lines = vu::bench::SplitLines(Text(), kLines);
     return lines;
 }
 
-std::wstring Widen(std::u16string_view s) {
+std::wstring Widen(vu::StringView s) {
     return std::wstring(s.begin(), s.end());
 }
 
@@ -86,9 +86,9 @@ void Finish(benchmark::State& state, size_t matches, size_t bytes) {
 
 // ---- VU_CRegExpression ------------------------------------------------------
 
-size_t CountVu(VU_CRegExpression& re, const std::u16string& text) {
+size_t CountVu(VU_CRegExpression& re, const vu::String& text) {
     size_t count = 0;
-    const char16_t* s = text.c_str();
+    const WCHAR* s = text.c_str();
     for (size_t from = 0; from <= text.size();) {
         const int at = re.RegFind(s + from);
         if (at < 0)
@@ -130,7 +130,7 @@ struct Pcre2 {
     pcre2_code_16* code = nullptr;
     pcre2_match_data_16* data = nullptr;
     bool jit = false;
-    Pcre2(const char16_t* pattern, bool useJit) : jit(useJit) {
+    Pcre2(const WCHAR* pattern, bool useJit) : jit(useJit) {
         int error = 0;
         PCRE2_SIZE offset = 0;
         code = pcre2_compile_16(reinterpret_cast<PCRE2_SPTR16>(pattern), PCRE2_ZERO_TERMINATED, 0,
@@ -144,13 +144,13 @@ struct Pcre2 {
         pcre2_match_data_free_16(data);
         pcre2_code_free_16(code);
     }
-    int Match(const char16_t* s, size_t length, size_t from) {
+    int Match(const WCHAR* s, size_t length, size_t from) {
         const auto subject = reinterpret_cast<PCRE2_SPTR16>(s);
         // Without pcre2_jit_compile the code has no JIT and pcre2_match interprets.
         return jit ? pcre2_jit_match_16(code, subject, length, from, 0, data, nullptr)
                    : pcre2_match_16(code, subject, length, from, 0, data, nullptr);
     }
-    size_t Count(const std::u16string& text) {
+    size_t Count(const vu::String& text) {
         size_t count = 0;
         for (size_t from = 0; from <= text.size();) {
             if (Match(text.data(), text.size(), from) <= 0)
@@ -191,7 +191,7 @@ void Pcre2Lines(benchmark::State& state, const Case& c, bool jit) {
 
 struct Icu {
     URegularExpression* re = nullptr;
-    explicit Icu(const char16_t* pattern) {
+    explicit Icu(const WCHAR* pattern) {
         UErrorCode status = U_ZERO_ERROR;
         re = uregex_open(pattern, -1, 0, nullptr, &status);
         if (U_FAILURE(status))
@@ -265,14 +265,14 @@ void StdLines(benchmark::State& state, const Case& c) {
 // ---- Memory scans: the physical limit --------------------------------------------
 
 // Looks for a unit that does not occur, reading every byte of the buffer.
-const char16_t kAbsentUnit = 0xFFFE;
+const WCHAR kAbsentUnit = 0xFFFE;
 
 void MemoryScanSse2(benchmark::State& state) {
-    const std::u16string& text = Text();
+    const vu::String& text = Text();
     for (auto _ : state) {
-        const char16_t* p = text.data();
-        const char16_t* end = p + text.size();
-        const char16_t* found = nullptr;
+        const WCHAR* p = text.data();
+        const WCHAR* end = p + text.size();
+        const WCHAR* found = nullptr;
 #if defined(__SSE2__)
         const __m128i wanted = _mm_set1_epi16(short(kAbsentUnit));
         for (; p + 32 <= end; p += 32) {
@@ -296,7 +296,7 @@ void MemoryScanSse2(benchmark::State& state) {
 }
 
 void MemoryScanStringView(benchmark::State& state) {
-    const std::u16string_view text = Text();
+    const vu::StringView text = Text();
     for (auto _ : state)
         benchmark::DoNotOptimize(text.find(kAbsentUnit));
     Finish(state, 0, text.size() * 2);
@@ -304,7 +304,7 @@ void MemoryScanStringView(benchmark::State& state) {
 
 void RegisterAll() {
     benchmark::RegisterBenchmark("MemoryScan/SSE2", MemoryScanSse2);
-    benchmark::RegisterBenchmark("MemoryScan/u16string_view::find", MemoryScanStringView);
+    benchmark::RegisterBenchmark("MemoryScan/basic_string_view::find", MemoryScanStringView);
     for (const Case& c : kTextCases) {
         const std::string name = c.name;
         benchmark::RegisterBenchmark((name + "/Vu").c_str(), VuText, c);

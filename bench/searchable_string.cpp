@@ -1,7 +1,7 @@
 // Searchable string against the peers a user would reach for, on the same
 // UTF-16 English prose:
 //   Find, whole-word Find, FindNoCase and ReverseFind, each walking every
-//   occurrence through the whole text, against std::u16string_view::find /
+//   occurrence through the whole text, against std::basic_string_view::find /
 //   rfind (with the same boundary test for whole words) and a case-blind
 //   std::search over the library's case map;
 //   replace-all of a frequent literal at 1 MB and 16 MB (UTF-16 bytes)
@@ -41,12 +41,12 @@ constexpr std::size_t kCharsPerMB = 1 << 19; // 1 MB of UTF-16
 // ---- The text ---------------------------------------------------------------
 
 // The first `chars` units of the English corpus (repeated as needed).
-const std::u16string& Prose(std::size_t chars) {
-    static std::vector<std::unique_ptr<std::u16string>> cache;
+const vu::String& Prose(std::size_t chars) {
+    static std::vector<std::unique_ptr<vu::String>> cache;
     for (const auto& t : cache)
         if (t->size() == chars)
             return *t;
-    cache.push_back(std::make_unique<std::u16string>(vu::bench::LoadEnglishCorpus(chars)));
+    cache.push_back(std::make_unique<vu::String>(vu::bench::LoadEnglishCorpus(chars)));
     return *cache.back();
 }
 
@@ -54,14 +54,14 @@ constexpr std::size_t kSearchChars = 8 * kCharsPerMB; // 8 MB
 
 void Report(benchmark::State& state, std::size_t chars, long long found) {
     state.SetBytesProcessed(static_cast<int64_t>(state.iterations()) *
-                            static_cast<int64_t>(chars * sizeof(char16_t)));
+                            static_cast<int64_t>(chars * sizeof(WCHAR)));
     state.counters["found"] = static_cast<double>(found);
 }
 
 // ---- Find ---------------------------------------------------------------------
 
-constexpr char16_t kWord[] = u"function";
-constexpr char16_t kShortWord[] = u"the";
+constexpr WCHAR kWord[] = VU_T("function");
+constexpr WCHAR kShortWord[] = VU_T("the");
 
 void Find_Searchable(benchmark::State& state) {
     VU_CSearchableString s(Prose(kSearchChars).c_str());
@@ -77,8 +77,8 @@ void Find_Searchable(benchmark::State& state) {
 BENCHMARK(Find_Searchable)->Unit(benchmark::kMillisecond);
 
 void Find_StringView(benchmark::State& state) {
-    const std::u16string_view s = Prose(kSearchChars);
-    const std::u16string_view word = kWord;
+    const vu::StringView s = Prose(kSearchChars);
+    const vu::StringView word = kWord;
     long long found = 0;
     for (auto _ : state) {
         found = 0;
@@ -106,13 +106,13 @@ void FindWholeWord_Searchable(benchmark::State& state) {
 BENCHMARK(FindWholeWord_Searchable)->Unit(benchmark::kMillisecond);
 
 void FindWholeWord_StringView(benchmark::State& state) {
-    const std::u16string_view s = Prose(kSearchChars);
-    const std::u16string_view word = kShortWord;
-    const std::u16string_view delimiters = VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS;
+    const vu::StringView s = Prose(kSearchChars);
+    const vu::StringView word = kShortWord;
+    const vu::StringView delimiters = VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS;
     bool isDelimiter[128] = {};
-    for (char16_t c : delimiters)
+    for (WCHAR c : delimiters)
         isDelimiter[c] = true;
-    auto boundary = [&](char16_t c) { return c < 128 && isDelimiter[c]; };
+    auto boundary = [&](WCHAR c) { return c < 128 && isDelimiter[c]; };
     long long found = 0;
     for (auto _ : state) {
         found = 0;
@@ -129,7 +129,7 @@ BENCHMARK(FindWholeWord_StringView)->Unit(benchmark::kMillisecond);
 
 // ---- FindNoCase ------------------------------------------------------------------
 
-constexpr char16_t kNoCaseWord[] = u"RETURN";
+constexpr WCHAR kNoCaseWord[] = VU_T("RETURN");
 
 void FindNoCase_Searchable(benchmark::State& state) {
     VU_CSearchableString s(Prose(kSearchChars).c_str());
@@ -146,9 +146,9 @@ void FindNoCase_Searchable(benchmark::State& state) {
 BENCHMARK(FindNoCase_Searchable)->Unit(benchmark::kMillisecond);
 
 void FindNoCase_StdSearch(benchmark::State& state) {
-    const std::u16string_view s = Prose(kSearchChars);
-    const std::u16string_view word = kNoCaseWord;
-    auto same = [](char16_t a, char16_t b) { return vu::ToLower(a) == vu::ToLower(b); };
+    const vu::StringView s = Prose(kSearchChars);
+    const vu::StringView word = kNoCaseWord;
+    auto same = [](WCHAR a, WCHAR b) { return vu::ToLower(a) == vu::ToLower(b); };
     long long found = 0;
     for (auto _ : state) {
         found = 0;
@@ -178,8 +178,8 @@ void ReverseFind_Searchable(benchmark::State& state) {
 BENCHMARK(ReverseFind_Searchable)->Unit(benchmark::kMillisecond);
 
 void ReverseFind_StringView(benchmark::State& state) {
-    const std::u16string_view s = Prose(kSearchChars);
-    const std::u16string_view word = kWord;
+    const vu::StringView s = Prose(kSearchChars);
+    const vu::StringView word = kWord;
     long long found = 0;
     for (auto _ : state) {
         found = 0;
@@ -196,8 +196,8 @@ BENCHMARK(ReverseFind_StringView)->Unit(benchmark::kMillisecond);
 // replacements in 16 MB. The replacement changes the length so the text is
 // really rebuilt.
 
-constexpr char16_t kFind[] = u"e";
-constexpr char16_t kReplacement[] = u"[E]";
+constexpr WCHAR kFind[] = VU_T("e");
+constexpr WCHAR kReplacement[] = VU_T("[E]");
 
 std::size_t ReplaceChars(const benchmark::State& state) {
     return static_cast<std::size_t>(state.range(0)) * kCharsPerMB;
@@ -235,7 +235,7 @@ BENCHMARK(ReplaceAllRegularExp_Searchable)->Arg(1)->Arg(16)->Unit(benchmark::kMi
 
 void ReplaceAllPcre2(benchmark::State& state, bool jit) {
     const std::size_t chars = ReplaceChars(state);
-    const std::u16string& text = Prose(chars);
+    const vu::String& text = Prose(chars);
     int error = 0;
     PCRE2_SIZE offset = 0;
     pcre2_code* code = pcre2_compile(reinterpret_cast<PCRE2_SPTR>(kFind), PCRE2_ZERO_TERMINATED,
@@ -252,7 +252,7 @@ void ReplaceAllPcre2(benchmark::State& state, bool jit) {
     pcre2_match_data* match = pcre2_match_data_create_from_pattern(code, nullptr);
     const auto subject = reinterpret_cast<PCRE2_SPTR>(text.data());
     const auto replacement = reinterpret_cast<PCRE2_SPTR>(kReplacement);
-    std::vector<char16_t> out(text.size() * 3 + 1);
+    std::vector<WCHAR> out(text.size() * 3 + 1);
     long long found = 0;
     for (auto _ : state) {
         PCRE2_SIZE outLength = out.size();
@@ -278,7 +278,7 @@ BENCHMARK_CAPTURE(ReplaceAllPcre2, jit, true)->Arg(1)->Arg(16)->Unit(benchmark::
 
 void ReplaceAll_IcuRegex(benchmark::State& state) {
     const std::size_t chars = ReplaceChars(state);
-    const std::u16string& text = Prose(chars);
+    const vu::String& text = Prose(chars);
     UErrorCode status = U_ZERO_ERROR;
     URegularExpression* re = uregex_open(kFind, -1, UREGEX_LITERAL, nullptr, &status);
     uregex_setText(re, text.data(), static_cast<int32_t>(text.size()), &status);
@@ -287,7 +287,7 @@ void ReplaceAll_IcuRegex(benchmark::State& state) {
         uregex_close(re);
         return;
     }
-    std::vector<char16_t> out(text.size() * 3 + 1);
+    std::vector<WCHAR> out(text.size() * 3 + 1);
     long long found = 0;
     for (auto _ : state) {
         status = U_ZERO_ERROR;

@@ -3,7 +3,7 @@
 // 0.25 Mi and 1 Mi characters of English prose (Debian's perl-doc, widened to
 // UTF-16), width 80, so that the two sizes show whether the time is linear.
 //
-// The reference is a plain std::u16string copy of the same text: the least
+// The reference is a plain vu::String copy of the same text: the least
 // any operation that rewrites the whole text can cost. Each figure is
 // reported as characters per second; the pieces (wrap alone, out and back
 // in alone) are timed too, so that a regression points at its step.
@@ -23,9 +23,9 @@ namespace {
 constexpr int kWidth = 80;
 
 // The first `units` characters of the corpus, loaded once.
-const std::u16string& Prose(std::size_t units) {
-    static const std::u16string corpus = vu::bench::LoadEnglishCorpus(1 << 20);
-    static std::map<std::size_t, std::u16string> prefixes;
+const vu::String& Prose(std::size_t units) {
+    static const vu::String corpus = vu::bench::LoadEnglishCorpus(1 << 20);
+    static std::map<std::size_t, vu::String> prefixes;
     auto [it, added] = prefixes.try_emplace(units);
     if (added)
         it->second = corpus.substr(0, units);
@@ -42,9 +42,9 @@ void Report(benchmark::State& state, std::size_t units) {
 }
 
 void BM_CopyReference(benchmark::State& state) {
-    const std::u16string& text = Prose(Units(state));
+    const vu::String& text = Prose(Units(state));
     for (auto _ : state) {
-        std::u16string copy = text;
+        vu::String copy = text;
         benchmark::DoNotOptimize(copy.data());
         benchmark::ClobberMemory();
     }
@@ -52,7 +52,7 @@ void BM_CopyReference(benchmark::State& state) {
 }
 
 void BM_WrapRoundTrip(benchmark::State& state) {
-    const std::u16string& text = Prose(Units(state));
+    const vu::String& text = Prose(Units(state));
     VU_CSearchableStringWithSoftLineBreaks s{CString(text)};
     const int breaks = s.WordWrapText(kWidth);
     for (auto _ : state) {
@@ -65,7 +65,7 @@ void BM_WrapRoundTrip(benchmark::State& state) {
 }
 
 void BM_WrapOnly(benchmark::State& state) {
-    const std::u16string& text = Prose(Units(state));
+    const vu::String& text = Prose(Units(state));
     VU_CSearchableStringWithSoftLineBreaks s{CString(text)};
     s.WordWrapText(kWidth);
     for (auto _ : state)
@@ -74,7 +74,7 @@ void BM_WrapOnly(benchmark::State& state) {
 }
 
 void BM_RemoveReInsert(benchmark::State& state) {
-    const std::u16string& text = Prose(Units(state));
+    const vu::String& text = Prose(Units(state));
     VU_CSearchableStringWithSoftLineBreaks s{CString(text)};
     s.WordWrapText(kWidth);
     for (auto _ : state) {
@@ -86,11 +86,11 @@ void BM_RemoveReInsert(benchmark::State& state) {
 
 // A search across the breaks: out, search the whole text, back in.
 void BM_FindAcrossBreaks(benchmark::State& state) {
-    const std::u16string& text = Prose(Units(state));
+    const vu::String& text = Prose(Units(state));
     VU_CSearchableStringWithSoftLineBreaks s{CString(text)};
     s.WordWrapText(kWidth);
     for (auto _ : state)
-        benchmark::DoNotOptimize(s.Find(u"no such phrase in the text"));
+        benchmark::DoNotOptimize(s.Find(VU_T("no such phrase in the text")));
     Report(state, text.size());
 }
 

@@ -33,7 +33,7 @@ struct Forest {
 
     explicit Forest(int roots_ = kRoots, int children = kChildren, int leaves = kLeaves) {
         int handle = 0;
-        const auto make = [&](const std::u16string& text, CTreeNode* parent) {
+        const auto make = [&](const vu::String& text, CTreeNode* parent) {
             ++handle;
             auto* node = new CTreeNode(CString(text.c_str()), 6, 6,
                                        static_cast<unsigned long>(handle) * 7, handle, parent);
@@ -47,11 +47,12 @@ struct Forest {
             return node;
         };
         for (int r = 0; r < roots_; ++r) {
-            CTreeNode* root = make(u"Program_" + std::u16string(1, u'A' + r % 26), nullptr);
+            CTreeNode* root = make(VU_T("Program_") + vu::String(1, VU_T('A') + r % 26), nullptr);
             for (int c = 0; c < children; ++c) {
-                CTreeNode* child = make(u"Routine_" + std::u16string(1, u'a' + c % 26), root);
+                CTreeNode* child = make(VU_T("Routine_") + vu::String(1, VU_T('a') + c % 26), root);
                 for (int l = 0; l < leaves; ++l)
-                    make(u"Tag_" + std::u16string(1, u'0' + l % 10) + u"\tDINT\tcounter & <limit>",
+                    make(VU_T("Tag_") + vu::String(1, VU_T('0') + l % 10) +
+                             VU_T("\tDINT\tcounter & <limit>"),
                          child);
             }
         }
@@ -143,7 +144,7 @@ BENCHMARK(BM_ComputeNumberOfExpandedNodesShowing)->Unit(benchmark::kMicrosecond)
 
 void BM_FindNoCaseChildString_Miss(benchmark::State& state) {
     Forest& f = SharedForest();
-    const CString key(u"Valve");
+    const CString key(VU_T("Valve"));
     for (auto _ : state) {
         int handle = -1;
         for (CTreeNode* root : f.roots)

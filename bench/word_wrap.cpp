@@ -29,16 +29,16 @@ constexpr size_t kMi = 1 << 20;
 
 // The documentation as an editor would hold it: paragraphs as single long
 // lines separated by blank lines with hard breaks, tabs as spaces.
-std::u16string EditorText(std::u16string_view source) {
-    std::u16string text;
+vu::String EditorText(vu::StringView source) {
+    vu::String text;
     text.reserve(source.size() + source.size() / 16);
     for (size_t i = 0; i < source.size(); ++i) {
-        if (source[i] == u'\n' && i + 1 < source.size() && source[i + 1] == u'\n') {
-            text += u"\r\n\r\n";
-            while (i + 1 < source.size() && source[i + 1] == u'\n')
+        if (source[i] == VU_T('\n') && i + 1 < source.size() && source[i + 1] == VU_T('\n')) {
+            text += VU_T("\r\n\r\n");
+            while (i + 1 < source.size() && source[i + 1] == VU_T('\n'))
                 ++i;
-        } else if (source[i] == u'\n' || source[i] == u'\t' || source[i] == u'\r') {
-            text += u' ';
+        } else if (source[i] == VU_T('\n') || source[i] == VU_T('\t') || source[i] == VU_T('\r')) {
+            text += VU_T(' ');
         } else {
             text += source[i];
         }
@@ -46,22 +46,22 @@ std::u16string EditorText(std::u16string_view source) {
     return text;
 }
 
-const std::u16string& Prose(size_t length) {
-    static const std::u16string large =
+const vu::String& Prose(size_t length) {
+    static const vu::String large =
         EditorText(vu::bench::LoadEnglishCorpus(11 * kMi)).substr(0, 10 * kMi);
-    static const std::u16string small = large.substr(0, kMi);
+    static const vu::String small = large.substr(0, kMi);
     return length == kMi ? small : large;
 }
 
-bool IsSpace(char16_t c) {
-    return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
+bool IsSpace(WCHAR c) {
+    return c == VU_T(' ') || c == VU_T('\t') || c == VU_T('\r') || c == VU_T('\n');
 }
 
 // The naive wrapper: words and single spaces as strings, hard breaks end a
 // line, a word that does not fit starts the next one.
-std::vector<std::u16string> NaiveWrap(const std::u16string& text, size_t width) {
-    std::vector<std::u16string> tokens;
-    std::u16string word;
+std::vector<vu::String> NaiveWrap(const vu::String& text, size_t width) {
+    std::vector<vu::String> tokens;
+    vu::String word;
     for (size_t i = 0; i < text.size(); ++i) {
         if (!IsSpace(text[i])) {
             word += text[i];
@@ -70,25 +70,25 @@ std::vector<std::u16string> NaiveWrap(const std::u16string& text, size_t width) 
         if (!word.empty())
             tokens.push_back(word);
         word.clear();
-        if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
-            tokens.push_back(u"\r\n");
+        if (text[i] == VU_T('\r') && i + 1 < text.size() && text[i + 1] == VU_T('\n')) {
+            tokens.push_back(VU_T("\r\n"));
             ++i;
         } else {
-            tokens.push_back(std::u16string(1, text[i]));
+            tokens.push_back(vu::String(1, text[i]));
         }
     }
     if (!word.empty())
         tokens.push_back(word);
 
-    std::vector<std::u16string> lines;
-    std::u16string line;
-    for (const std::u16string& t : tokens) {
-        if (t == u"\r\n") {
+    std::vector<vu::String> lines;
+    vu::String line;
+    for (const vu::String& t : tokens) {
+        if (t == VU_T("\r\n")) {
             lines.push_back(line + t);
             line.clear();
         } else if (line.size() + t.size() <= width) {
             line += t;
-        } else if (t == u" ") {
+        } else if (t == VU_T(" ")) {
             lines.push_back(line + t);
             line.clear();
         } else {
@@ -108,18 +108,18 @@ std::vector<std::u16string> NaiveWrap(const std::u16string& text, size_t width) 
     return lines;
 }
 
-std::u16string NaiveJoin(const std::vector<std::u16string>& lines) {
-    std::u16string out;
+vu::String NaiveJoin(const std::vector<vu::String>& lines) {
+    vu::String out;
     for (size_t i = 0; i < lines.size(); ++i) {
-        if (i > 0 && !out.ends_with(u"\r\n"))
-            out += u"\r\r\n";
+        if (i > 0 && !out.ends_with(VU_T("\r\n")))
+            out += VU_T("\r\r\n");
         out += lines[i];
     }
     return out;
 }
 
 void Report(benchmark::State& state, size_t length, size_t lines) {
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * length * sizeof(char16_t)));
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * length * sizeof(WCHAR)));
     state.counters["lines"] = static_cast<double>(lines);
 }
 
@@ -136,7 +136,7 @@ void BM_VuWrap(benchmark::State& state) {
 
 void BM_NaiveWrap(benchmark::State& state) {
     const size_t length = static_cast<size_t>(state.range(0)) * kMi;
-    const std::u16string& text = Prose(length);
+    const vu::String& text = Prose(length);
     size_t lines = 0;
     for (auto _ : state) {
         const auto wrapped = NaiveWrap(text, static_cast<size_t>(state.range(1)));
@@ -159,11 +159,11 @@ void BM_VuWrapAndJoin(benchmark::State& state) {
 
 void BM_NaiveWrapAndJoin(benchmark::State& state) {
     const size_t length = static_cast<size_t>(state.range(0)) * kMi;
-    const std::u16string& text = Prose(length);
+    const vu::String& text = Prose(length);
     size_t lines = 0;
     for (auto _ : state) {
         const auto wrapped = NaiveWrap(text, static_cast<size_t>(state.range(1)));
-        const std::u16string joined = NaiveJoin(wrapped);
+        const vu::String joined = NaiveJoin(wrapped);
         benchmark::DoNotOptimize(joined.data());
         lines = wrapped.size();
     }
@@ -180,7 +180,7 @@ void Sizes(benchmark::internal::Benchmark* b) {
 // Both wrappers follow the same rules on this text, or the ratio means
 // nothing.
 bool SameLines() {
-    const std::u16string& text = Prose(kMi);
+    const vu::String& text = Prose(kMi);
     for (int width : {40, 80, 132}) {
         const VU_CWordWrappedString w{CString(text), width};
         const auto naive = NaiveWrap(text, static_cast<size_t>(width));

@@ -2,7 +2,7 @@
 // with three child values (a number, a flag, a text), a tenth of the texts
 // needing escapes. Our writer against libxml2's xmlTextWriter to a memory
 // buffer, pugixml building a document and saving it as UTF-16, and a bare
-// std::u16string append loop of the same output (pre-escaped pieces) as the
+// vu::String append loop of the same output (pre-escaped pieces) as the
 // ceiling. Every library gets its input in its own form, prepared untimed.
 //
 // Where the first touch of fresh memory is expensive (page faults in a
@@ -28,9 +28,9 @@ namespace {
 constexpr long kElements = 1000000;
 constexpr size_t kTextPool = 1000;
 
-std::string Narrow(std::u16string_view s) {
+std::string Narrow(vu::StringView s) {
     std::string out;
-    for (char16_t c : s) {
+    for (WCHAR c : s) {
         if (c < 0x80) {
             out += static_cast<char>(c);
         } else if (c < 0x800) {
@@ -45,24 +45,24 @@ std::string Narrow(std::u16string_view s) {
     return out;
 }
 
-std::u16string Escaped(std::u16string_view s) {
-    std::u16string out;
-    for (char16_t c : s) {
+vu::String Escaped(vu::StringView s) {
+    vu::String out;
+    for (WCHAR c : s) {
         switch (c) {
-        case u'&':
-            out += u"&amp;";
+        case VU_T('&'):
+            out += VU_T("&amp;");
             break;
-        case u'<':
-            out += u"&lt;";
+        case VU_T('<'):
+            out += VU_T("&lt;");
             break;
-        case u'>':
-            out += u"&gt;";
+        case VU_T('>'):
+            out += VU_T("&gt;");
             break;
-        case u'\'':
-            out += u"&apos;";
+        case VU_T('\''):
+            out += VU_T("&apos;");
             break;
-        case u'"':
-            out += u"&quot;";
+        case VU_T('"'):
+            out += VU_T("&quot;");
             break;
         default:
             out += c;
@@ -75,17 +75,17 @@ std::u16string Escaped(std::u16string_view s) {
 // escapes.
 struct Texts {
     std::vector<AF_GString> wide;
-    std::vector<std::u16string> escaped;
+    std::vector<vu::String> escaped;
     std::vector<std::string> utf8;
     Texts() {
-        static const char16_t* const plain[] = {
-            u"MainTask", u"Routine_Conveyor_Start", u"Motor speed set point",
-            u"Tag\u00e4nderung Z\u00e4hler", u"Alarm_Overtemperature_03"};
-        static const char16_t* const special[] = {u"Speed < Limit && Run", u"Comment \"main\" > 3",
-                                                  u"Rung's <output>"};
+        static const WCHAR* const plain[] = {
+            VU_T("MainTask"), VU_T("Routine_Conveyor_Start"), VU_T("Motor speed set point"),
+            VU_T("Tag\u00e4nderung Z\u00e4hler"), VU_T("Alarm_Overtemperature_03")};
+        static const WCHAR* const special[] = {
+            VU_T("Speed < Limit && Run"), VU_T("Comment \"main\" > 3"), VU_T("Rung's <output>")};
         for (size_t i = 0; i < kTextPool; ++i) {
-            const std::u16string base = i % 10 == 0 ? special[i / 10 % 3] : plain[i % 5];
-            const std::u16string text = base + u" " + std::u16string(1, u'A' + i % 26);
+            const vu::String base = i % 10 == 0 ? special[i / 10 % 3] : plain[i % 5];
+            const vu::String text = base + VU_T(" ") + vu::String(1, VU_T('A') + i % 26);
             wide.emplace_back(text);
             escaped.push_back(Escaped(text));
             utf8.push_back(Narrow(text));
@@ -98,16 +98,16 @@ const Texts& TheTexts() {
     return texts;
 }
 
-void AppendNumber(std::u16string& out, long value) {
+void AppendNumber(vu::String& out, long value) {
     char digits[24];
     const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     for (const char* p = digits; p != end; ++p)
-        out += static_cast<char16_t>(*p);
+        out += static_cast<WCHAR>(*p);
 }
 
 void WriteVu(VU_CXmlWriter& w) {
-    static const AF_GString root(u"HbxTreeList"), node(u"HbxListNode"), id(u"id"),
-        expanded(u"expanded"), text(u"text");
+    static const AF_GString root(VU_T("HbxTreeList")), node(VU_T("HbxListNode")), id(VU_T("id")),
+        expanded(VU_T("expanded")), text(VU_T("text"));
     const Texts& texts = TheTexts();
     w.WriteStartElement(root);
     for (long i = 0; i < kElements; ++i) {
@@ -126,20 +126,20 @@ void WriteVu(VU_CXmlWriter& w) {
     w.WriteEndElement();
 }
 
-std::u16string WriteBare() {
+vu::String WriteBare() {
     const Texts& texts = TheTexts();
-    std::u16string out;
-    out += u"<HbxTreeList>";
+    vu::String out;
+    out += VU_T("<HbxTreeList>");
     for (long i = 0; i < kElements; ++i) {
-        out += u"<HbxListNode><id>";
+        out += VU_T("<HbxListNode><id>");
         AppendNumber(out, i);
-        out += u"</id><expanded>";
-        out += i % 3 == 0 ? u"true" : u"false";
-        out += u"</expanded><text>";
+        out += VU_T("</id><expanded>");
+        out += i % 3 == 0 ? VU_T("true") : VU_T("false");
+        out += VU_T("</expanded><text>");
         out += texts.escaped[i % kTextPool];
-        out += u"</text></HbxListNode>";
+        out += VU_T("</text></HbxListNode>");
     }
-    out += u"</HbxTreeList>";
+    out += VU_T("</HbxTreeList>");
     return out;
 }
 
@@ -230,7 +230,7 @@ void BM_PugixmlUtf16(benchmark::State& state) {
 void BM_BareAppendLoop(benchmark::State& state) {
     size_t bytes = 0;
     for (auto _ : state) {
-        const std::u16string out = WriteBare();
+        const vu::String out = WriteBare();
         benchmark::DoNotOptimize(out.data());
         bytes = out.size() * 2;
     }

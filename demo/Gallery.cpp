@@ -131,7 +131,7 @@ bool Context::SaveScreenRect(const RECT& rc, const std::wstring& name) {
     return ok;
 }
 
-bool Context::SaveText(const std::wstring& name, const std::u16string& text) {
+bool Context::SaveText(const std::wstring& name, const std::wstring& text) {
     FILE* file = _wfopen((m_outDir + L"\\" + name).c_str(), L"wb");
     if (file == nullptr) {
         Check(false, "opening a text file");

@@ -30,7 +30,7 @@ public:
     // window manager).
     bool SaveClientPng(HWND hWnd, const std::wstring& name);
     // Saves text as UTF-8.
-    bool SaveText(const std::wstring& name, const std::u16string& text);
+    bool SaveText(const std::wstring& name, const std::wstring& text);
     // Records a failed expectation; the gallery then exits with 1.
     void Check(bool ok, const char* what);
 

@@ -24,15 +24,15 @@ public:
     }
 };
 
-CString Text(const std::u16string& s) {
+CString Text(const std::wstring& s) {
     return CString(s.c_str());
 }
-std::u16string Number(int n) {
+std::wstring Number(int n) {
     const std::string s = std::to_string(n);
-    return std::u16string(s.begin(), s.end());
+    return std::wstring(s.begin(), s.end());
 }
 
-int RowOfText(VU_CTreeListBox& tree, const char16_t* text) {
+int RowOfText(VU_CTreeListBox& tree, const wchar_t* text) {
     for (int row = 0; row < tree.GetRowCount(); ++row)
         if (tree.GetDisplayText(row) == CString(text))
             return row;
@@ -45,25 +45,25 @@ void SetFont(HWND hWnd) {
 }
 
 void FillSummary(VU_CSummaryListBox& summary, const ProjectCounts& counts) {
-    const auto line = [&](const std::u16string& text) { summary.AddItem(Text(text), false); };
-    summary.AddItem(Text(u"Controller"), true);
-    line(u"Name: Line3_Packer");
-    line(u"Type: VX-L83E VX 8 series Controller");
-    line(u"Revision: 33.011");
-    summary.AddItem(Text(u"Logic"), true);
-    line(u"Tasks: " + Number(counts.tasks) + u" (1 continuous, 1 periodic, 1 event)");
-    line(u"Programs: " + Number(counts.programs));
-    line(u"Routines: " + Number(counts.routines));
-    line(u"Inhibited: " + Number(counts.inhibited));
-    summary.AddItem(Text(u"Tags"), true);
-    line(u"Controller tags: " + Number(counts.controllerTags));
-    line(u"Program tags: " + Number(counts.programTags));
-    line(u"Data types: " + Number(counts.dataTypes));
-    summary.AddItem(Text(u"I/O"), true);
-    line(u"Modules: " + Number(counts.modules));
-    summary.AddItem(Text(u"Verification"), true);
-    line(u"Errors: 0");
-    line(u"Warnings: 2 (unused tags)");
+    const auto line = [&](const std::wstring& text) { summary.AddItem(Text(text), false); };
+    summary.AddItem(Text(L"Controller"), true);
+    line(L"Name: Line3_Packer");
+    line(L"Type: VX-L83E VX 8 series Controller");
+    line(L"Revision: 33.011");
+    summary.AddItem(Text(L"Logic"), true);
+    line(L"Tasks: " + Number(counts.tasks) + L" (1 continuous, 1 periodic, 1 event)");
+    line(L"Programs: " + Number(counts.programs));
+    line(L"Routines: " + Number(counts.routines));
+    line(L"Inhibited: " + Number(counts.inhibited));
+    summary.AddItem(Text(L"Tags"), true);
+    line(L"Controller tags: " + Number(counts.controllerTags));
+    line(L"Program tags: " + Number(counts.programTags));
+    line(L"Data types: " + Number(counts.dataTypes));
+    summary.AddItem(Text(L"I/O"), true);
+    line(L"Modules: " + Number(counts.modules));
+    summary.AddItem(Text(L"Verification"), true);
+    line(L"Errors: 0");
+    line(L"Warnings: 2 (unused tags)");
 }
 
 void ProjectOrganizer(Context& c) {
@@ -94,13 +94,13 @@ void ProjectOrganizer(Context& c) {
 
     // The controller: a click on its expand button.
     const int controllerRow =
-        RowOfText(tree, u"Line3_Packer\tVX-L83E\tVX 8 series, revision 33.011");
+        RowOfText(tree, L"Line3_Packer\tVX-L83E\tVX 8 series, revision 33.011");
     c.Click(tree.m_hWnd, 8, controllerRow * kRowHeight + kRowHeight / 2);
     c.Check(tree.GetRowCount() > 0 && tree.GetNode(controllerRow)->IsExpanded(),
             "a click on the button expands the controller");
 
     // The main task: a double click on its text.
-    const int mainTask = RowOfText(tree, u"MainTask\tContinuous\tWatchdog 500 ms");
+    const int mainTask = RowOfText(tree, L"MainTask\tContinuous\tWatchdog 500 ms");
     SendMessageW(tree.m_hWnd, LB_SETTOPINDEX, 0, 0);
     SendMessageW(tree.m_hWnd, WM_LBUTTONDBLCLK, MK_LBUTTON,
                  MAKELPARAM(120, mainTask * kRowHeight + kRowHeight / 2));
@@ -110,25 +110,25 @@ void ProjectOrganizer(Context& c) {
 
     // The filler program from the keyboard: right opens it, down walks,
     // left goes back to the parent, and down again to a tag.
-    c.Check(tree.SelectItemFromString(Text(u"Filler"), true) >= 0, "selecting the filler");
+    c.Check(tree.SelectItemFromString(Text(L"Filler"), true) >= 0, "selecting the filler");
     c.Key(tree.m_hWnd, VK_RIGHT);
     c.Key(tree.m_hWnd, VK_DOWN); // Program Tags
     c.Key(tree.m_hWnd, VK_RIGHT);
     for (int i = 0; i < 3; ++i)
         c.Key(tree.m_hWnd, VK_DOWN);
     c.Key(tree.m_hWnd, VK_LEFT); // back to Program Tags
-    c.Check(tree.GetCurSelDisplayText() == CString(u"Program Tags"), "left selects the parent");
+    c.Check(tree.GetCurSelDisplayText() == CString(L"Program Tags"), "left selects the parent");
     for (int i = 0; i < 4; ++i)
         c.Key(tree.m_hWnd, VK_DOWN);
-    c.Check(tree.GetCurSelDisplayText() == CString(u"Motor\tUDT_Motor\tMain drive"),
+    c.Check(tree.GetCurSelDisplayText() == CString(L"Motor\tUDT_Motor\tMain drive"),
             "down walks to the drive tag");
     // The module list, where the spare module is inhibited (greyed).
-    tree.Expand(RowOfText(tree, u"VX Backplane, VX-A10"));
+    tree.Expand(RowOfText(tree, L"VX Backplane, VX-A10"));
     c.Pump();
 
-    const std::u16string xml = tree.XmlGetString();
-    c.Check(xml.find(u"<selected>true</selected><text>Motor\tUDT_Motor\tMain drive</text>"
-                     u"<parent>Program Tags</parent>") != std::u16string::npos,
+    const std::wstring xml = tree.XmlGetString();
+    c.Check(xml.find(L"<selected>true</selected><text>Motor\tUDT_Motor\tMain drive</text>"
+                     L"<parent>Program Tags</parent>") != std::wstring::npos,
             "the XML dump marks the selected tag");
     c.SaveText(L"tree_list_box.xml", xml);
     c.SaveWindowPng(tree.m_hWnd, L"tree_list_box");

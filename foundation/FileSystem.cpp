@@ -1,7 +1,6 @@
 #include "foundation/FileSystem.h"
 
 #ifdef _WIN32
-#include "framework/win/Wide.h"
 
 #include <direct.h>
 #include <io.h>
@@ -29,55 +28,55 @@ namespace vu {
 bool FileSystem::HasDriveLetters() {
     return true;
 }
-bool FileSystem::IsSeparator(char16_t c) {
-    return c == u'\\';
+bool FileSystem::IsSeparator(WCHAR c) {
+    return c == VU_T('\\');
 }
-char16_t FileSystem::SeparatorFor(std::u16string_view) {
-    return u'\\';
+WCHAR FileSystem::SeparatorFor(vu::StringView) {
+    return VU_T('\\');
 }
-bool FileSystem::IsRootedWithoutDrive(std::u16string_view) {
+bool FileSystem::IsRootedWithoutDrive(vu::StringView) {
     return false;
 }
 
-bool FileSystem::Exists(std::u16string_view path) {
-    const std::u16string z(path);
-    return _waccess(W(z.c_str()), 0) == 0;
+bool FileSystem::Exists(vu::StringView path) {
+    const vu::String z(path);
+    return _waccess(z.c_str(), 0) == 0;
 }
 
-bool FileSystem::MakeDir(std::u16string_view path) {
-    const std::u16string z(path);
-    return _wmkdir(W(z.c_str())) == 0;
+bool FileSystem::MakeDir(vu::StringView path) {
+    const vu::String z(path);
+    return _wmkdir(z.c_str()) == 0;
 }
 
-bool FileSystem::RemoveDir(std::u16string_view path) {
-    const std::u16string z(path);
-    return _wrmdir(W(z.c_str())) == 0;
+bool FileSystem::RemoveDir(vu::StringView path) {
+    const vu::String z(path);
+    return _wrmdir(z.c_str()) == 0;
 }
 
-bool FileSystem::FullPath(std::u16string_view path, std::size_t bufferUnits, std::u16string& out) {
-    const std::u16string z(path);
+bool FileSystem::FullPath(vu::StringView path, std::size_t bufferUnits, vu::String& out) {
+    const vu::String z(path);
     std::vector<wchar_t> buffer(bufferUnits + 1);
-    if (_wfullpath(buffer.data(), W(z.c_str()), bufferUnits) == nullptr)
+    if (_wfullpath(buffer.data(), z.c_str(), bufferUnits) == nullptr)
         return false;
-    out = U(buffer.data());
+    out = buffer.data();
     return true;
 }
 
-bool FileSystem::GetCwd(std::size_t bufferUnits, std::u16string& out) {
+bool FileSystem::GetCwd(std::size_t bufferUnits, vu::String& out) {
     std::vector<wchar_t> buffer(bufferUnits + 1);
     if (_wgetcwd(buffer.data(), static_cast<int>(bufferUnits)) == nullptr)
         return false;
-    out = U(buffer.data());
+    out = buffer.data();
     return true;
 }
 
-bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
-    const std::u16string z(path);
+bool FileSystem::FindFirstName(vu::StringView path, vu::String& name) {
+    const vu::String z(path);
     struct _wfinddata_t data;
-    const intptr_t handle = _wfindfirst(W(z.c_str()), &data);
+    const intptr_t handle = _wfindfirst(z.c_str(), &data);
     if (handle == -1)
         return false;
-    name = U(data.name);
+    name = data.name;
     _findclose(handle);
     return true;
 }
@@ -88,29 +87,29 @@ bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
 
 namespace {
 
-bool IsUncStart(std::u16string_view path) {
-    return path.size() >= 2 && path[0] == u'\\' && path[1] == u'\\';
+bool IsUncStart(vu::StringView path) {
+    return path.size() >= 2 && path[0] == VU_T('\\') && path[1] == VU_T('\\');
 }
 
 // UTF-16 to the UTF-8 name POSIX takes, with '\' read as '/'. The text ends
 // at the first 0 unit, as a C string would.
-std::string ToNative(std::u16string_view path) {
-    std::string out = vu::Utf16ToUtf8(path.substr(0, path.find(u'\0')));
+std::string ToNative(vu::StringView path) {
+    std::string out = vu::Utf16ToUtf8(path.substr(0, path.find(VU_T('\0'))));
     std::replace(out.begin(), out.end(), '\\', '/');
     return out;
 }
 
 // UTF-8 from the file system to UTF-16.
-std::u16string FromNative(std::string_view s) {
+vu::String FromNative(std::string_view s) {
     return vu::Utf8ToUtf16(s);
 }
 
-bool HasDrivePrefix(std::u16string_view path) {
-    return path.size() >= 2 && path[1] == u':';
+bool HasDrivePrefix(vu::StringView path) {
+    return path.size() >= 2 && path[1] == VU_T(':');
 }
 
-bool HasWildcard(std::u16string_view s) {
-    return s.find_first_of(u"*?") != std::u16string_view::npos;
+bool HasWildcard(vu::StringView s) {
+    return s.find_first_of(VU_T("*?")) != vu::StringView::npos;
 }
 
 } // namespace
@@ -118,30 +117,30 @@ bool HasWildcard(std::u16string_view s) {
 bool FileSystem::HasDriveLetters() {
     return false;
 }
-bool FileSystem::IsSeparator(char16_t c) {
-    return c == u'\\' || c == u'/';
+bool FileSystem::IsSeparator(WCHAR c) {
+    return c == VU_T('\\') || c == VU_T('/');
 }
 
-char16_t FileSystem::SeparatorFor(std::u16string_view path) {
-    const std::size_t last = path.find_last_of(u"\\/");
-    return last == std::u16string_view::npos ? u'/' : path[last];
+WCHAR FileSystem::SeparatorFor(vu::StringView path) {
+    const std::size_t last = path.find_last_of(VU_T("\\/"));
+    return last == vu::StringView::npos ? VU_T('/') : path[last];
 }
 
-bool FileSystem::IsRootedWithoutDrive(std::u16string_view path) {
+bool FileSystem::IsRootedWithoutDrive(vu::StringView path) {
     return !path.empty() && IsSeparator(path[0]) && !IsUncStart(path);
 }
 
-bool FileSystem::Exists(std::u16string_view path) {
+bool FileSystem::Exists(vu::StringView path) {
     const std::string native = ToNative(path);
     return !native.empty() && ::access(native.c_str(), F_OK) == 0;
 }
 
-bool FileSystem::MakeDir(std::u16string_view path) {
+bool FileSystem::MakeDir(vu::StringView path) {
     const std::string native = ToNative(path);
     return !native.empty() && ::mkdir(native.c_str(), 0777) == 0;
 }
 
-bool FileSystem::RemoveDir(std::u16string_view path) {
+bool FileSystem::RemoveDir(vu::StringView path) {
     const std::string native = ToNative(path);
     return !native.empty() && ::rmdir(native.c_str()) == 0;
 }
@@ -150,66 +149,66 @@ bool FileSystem::RemoveDir(std::u16string_view path) {
 // '..' drops the component before it (never above the root), symbolic
 // links are not followed and nothing needs to exist. A trailing separator
 // is kept. Drive-letter and UNC paths have no counterpart here.
-bool FileSystem::FullPath(std::u16string_view path, std::size_t bufferUnits, std::u16string& out) {
+bool FileSystem::FullPath(vu::StringView path, std::size_t bufferUnits, vu::String& out) {
     if (path.empty() || HasDrivePrefix(path) || IsUncStart(path))
         return false;
-    std::u16string combined;
-    if (!IsSeparator(path[0]) && !GetCwd(std::u16string::npos, combined))
+    vu::String combined;
+    if (!IsSeparator(path[0]) && !GetCwd(vu::String::npos, combined))
         return false;
-    combined += u'/';
+    combined += VU_T('/');
     combined += path;
 
-    std::vector<std::u16string_view> parts;
-    const std::u16string_view all(combined);
+    std::vector<vu::StringView> parts;
+    const vu::StringView all(combined);
     std::size_t start = 0;
     while (start <= all.size()) {
         std::size_t end = start;
         while (end < all.size() && !IsSeparator(all[end]))
             ++end;
-        const std::u16string_view part = all.substr(start, end - start);
-        if (part == u"..") {
+        const vu::StringView part = all.substr(start, end - start);
+        if (part == VU_T("..")) {
             if (!parts.empty())
                 parts.pop_back();
-        } else if (!part.empty() && part != u".") {
+        } else if (!part.empty() && part != VU_T(".")) {
             parts.push_back(part);
         }
         start = end + 1;
     }
 
-    std::u16string result;
+    vu::String result;
     for (const auto& part : parts) {
-        result += u'/';
+        result += VU_T('/');
         result += part;
     }
     if (result.empty() || IsSeparator(path.back()))
-        result += u'/';
+        result += VU_T('/');
     if (result.size() + 1 > bufferUnits)
         return false;
     out = std::move(result);
     return true;
 }
 
-bool FileSystem::GetCwd(std::size_t bufferUnits, std::u16string& out) {
+bool FileSystem::GetCwd(std::size_t bufferUnits, vu::String& out) {
     std::vector<char> buffer(4096);
     while (::getcwd(buffer.data(), buffer.size()) == nullptr) {
         if (errno != ERANGE || buffer.size() > (1u << 20))
             return false;
         buffer.resize(buffer.size() * 2);
     }
-    std::u16string cwd = FromNative(buffer.data());
+    vu::String cwd = FromNative(buffer.data());
     if (cwd.size() + 1 > bufferUnits)
         return false;
     out = std::move(cwd);
     return true;
 }
 
-bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
+bool FileSystem::FindFirstName(vu::StringView path, vu::String& name) {
     if (path.empty() || IsSeparator(path.back()))
         return false;
-    const std::size_t cut = path.find_last_of(u"\\/");
-    const std::u16string_view last = cut == std::u16string_view::npos ? path : path.substr(cut + 1);
-    const std::u16string_view parent =
-        cut == std::u16string_view::npos ? std::u16string_view(u".") : path.substr(0, cut + 1);
+    const std::size_t cut = path.find_last_of(VU_T("\\/"));
+    const vu::StringView last = cut == vu::StringView::npos ? path : path.substr(cut + 1);
+    const vu::StringView parent =
+        cut == vu::StringView::npos ? vu::StringView(VU_T(".")) : path.substr(0, cut + 1);
     const bool wild = HasWildcard(last);
     if (!wild && !Exists(path))
         return false;
@@ -226,7 +225,7 @@ bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
     // defined here); a plain name gives the entry as stored, found exactly
     // or, on a case-blind file system, by case-blind comparison.
     std::string best;
-    std::u16string caseBlind;
+    vu::String caseBlind;
     bool found = false;
     while (const dirent* entry = ::readdir(dir)) {
         const std::string entryName = entry->d_name;
@@ -241,7 +240,7 @@ bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
             found = true;
             break;
         } else if (caseBlind.empty()) {
-            std::u16string candidate = FromNative(entryName);
+            vu::String candidate = FromNative(entryName);
             if (EqualNoCase(candidate, last))
                 caseBlind = std::move(candidate);
         }
@@ -250,7 +249,7 @@ bool FileSystem::FindFirstName(std::u16string_view path, std::u16string& name) {
     if (found)
         name = FromNative(best);
     else if (!wild)
-        name = caseBlind.empty() ? std::u16string(last) : caseBlind;
+        name = caseBlind.empty() ? vu::String(last) : caseBlind;
     return found || !wild;
 }
 

@@ -15,6 +15,7 @@
 //
 // Windows keeps its own rules exactly: only '\' ends a directory in the
 // path rules (the splitter still accepts '/'), and joins add '\'.
+#include "framework/Char.h"
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -28,30 +29,30 @@ public:
     // Whether paths on this platform can carry a drive letter ('C:').
     static bool HasDriveLetters();
     // Whether c ends a directory in the path rules.
-    static bool IsSeparator(char16_t c);
+    static bool IsSeparator(WCHAR c);
     // The separator to put after path when joining another part to it.
-    static char16_t SeparatorFor(std::u16string_view path);
+    static WCHAR SeparatorFor(vu::StringView path);
     // Whether path is rooted at the file-system root without a drive
     // (natively '/...'; never on Windows, where the drive's root is 'C:\').
-    static bool IsRootedWithoutDrive(std::u16string_view path);
+    static bool IsRootedWithoutDrive(vu::StringView path);
 
     // ---- file-system calls -----------------------------------------------------
 
     // Whether an entry of any kind exists at path.
-    static bool Exists(std::u16string_view path);
-    static bool MakeDir(std::u16string_view path);
-    static bool RemoveDir(std::u16string_view path);
+    static bool Exists(vu::StringView path);
+    static bool MakeDir(vu::StringView path);
+    static bool RemoveDir(vu::StringView path);
     // The absolute form of path, with '.' and '..' resolved; false if it
     // cannot be made or needs bufferUnits units or more (terminator
     // included).
-    static bool FullPath(std::u16string_view path, std::size_t bufferUnits, std::u16string& out);
+    static bool FullPath(vu::StringView path, std::size_t bufferUnits, vu::String& out);
     // The current directory; false if it needs more than bufferUnits units
     // (terminator included).
-    static bool GetCwd(std::size_t bufferUnits, std::u16string& out);
+    static bool GetCwd(std::size_t bufferUnits, vu::String& out);
     // The name, as stored, of the first entry that path's last component
     // names (it may hold the wildcards '*' and '?'); false if none does or
     // the path ends in a separator.
-    static bool FindFirstName(std::u16string_view path, std::u16string& name);
+    static bool FindFirstName(vu::StringView path, vu::String& name);
 };
 
 } // namespace vu

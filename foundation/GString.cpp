@@ -3,12 +3,12 @@
 #include "framework/CString.h"
 #include "framework/CaseMap.h"
 
-AF_GString::AF_GString(const char16_t* s) {
+AF_GString::AF_GString(const WCHAR* s) {
     if (s != nullptr)
         assign(s);
 }
 
-AF_GString::AF_GString(const CString& s) : std::u16string(s.GetString()) {}
+AF_GString::AF_GString(const CString& s) : vu::String(s.GetString()) {}
 
 // ---- counting ------------------------------------------------------------
 
@@ -138,7 +138,7 @@ AF_GString AF_GString::substr(const AF_GString& open, const AF_GString& close) c
 AF_GString AF_GString::substr(size_type pos, size_type n) const {
     if (pos > size())
         return AF_GString();
-    return AF_GString(std::u16string::substr(pos, n));
+    return AF_GString(vu::String::substr(pos, n));
 }
 
 AF_GString& AF_GString::trim(const AF_GString& set) {
@@ -154,7 +154,7 @@ AF_GString& AF_GString::trim(const AF_GString& set) {
 
 // ---- case ------------------------------------------------------------------
 
-AF_GString& AF_GString::MapCase(size_type pos, char16_t (*map)(char16_t)) {
+AF_GString& AF_GString::MapCase(size_type pos, WCHAR (*map)(WCHAR)) {
     if (empty() || pos > size())
         return *this;
     for (size_type i = pos; i < size(); ++i)

@@ -1,6 +1,6 @@
 #pragma once
 // AF_GString: the library's value string of UTF-16 code units, a
-// std::u16string with character-set, case and search operations. A "set"
+// vu::String with character-set, case and search operations. A "set"
 // argument is a string whose units form a set. Every modifying operation
 // works in place and returns the string itself.
 //
@@ -13,19 +13,19 @@
 
 class CString;
 
-class AF_GString : public std::u16string {
+class AF_GString : public vu::String {
 public:
     // Construction
     AF_GString() = default;
-    AF_GString(const std::u16string& s) : std::u16string(s) {}
-    AF_GString(std::u16string&& s) : std::u16string(std::move(s)) {}
-    AF_GString(const char16_t* s); // null gives an empty string
-    AF_GString(const CString& s);  // up to the first 0 unit, like a C string
+    AF_GString(const vu::String& s) : vu::String(s) {}
+    AF_GString(vu::String&& s) : vu::String(std::move(s)) {}
+    AF_GString(const WCHAR* s);   // null gives an empty string
+    AF_GString(const CString& s); // up to the first 0 unit, like a C string
     AF_GString(const AF_GString&) = default;
     AF_GString(AF_GString&&) noexcept = default;
     AF_GString& operator=(const AF_GString&) = default;
     AF_GString& operator=(AF_GString&&) noexcept = default;
-    using std::u16string::operator=;
+    using vu::String::operator=;
 
     // Counting: units at or after pos that belong to set (before pos+n).
     size_type count(const AF_GString& set, size_type pos = 0) const;
@@ -83,7 +83,7 @@ private:
     AF_GString& FilterBelow(const AF_GString& set, size_type pos, size_type limit);
     AF_GString& RemoveBelow(const AF_GString& set, size_type pos, size_type limit);
     AF_GString& RemoveSubstrBelow(const AF_GString& sub, size_type pos, size_type limit);
-    AF_GString& MapCase(size_type pos, char16_t (*map)(char16_t));
+    AF_GString& MapCase(size_type pos, WCHAR (*map)(WCHAR));
 };
 
 // Orders string pointers by the strings' standard operator< (unit by unit,

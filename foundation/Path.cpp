@@ -15,7 +15,7 @@ namespace {
 // _wfullpath's buffer in MakeAbsolute, terminator included.
 constexpr std::size_t kFullPathBuffer = 260;
 
-CString Trimmed(const char16_t* s) {
+CString Trimmed(const WCHAR* s) {
     CString t(s);
     t.Trim();
     return t;
@@ -32,39 +32,39 @@ void DropTrailingSeparator(CString& dir) {
         dir.Delete(dir.GetLength() - 1);
 }
 
-bool IsAsciiLetter(char16_t c) {
-    return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z');
+bool IsAsciiLetter(WCHAR c) {
+    return (c >= VU_T('A') && c <= VU_T('Z')) || (c >= VU_T('a') && c <= VU_T('z'));
 }
 
-bool StartsWithTwoBackslashes(std::u16string_view s) {
-    return s.size() >= 2 && s[0] == u'\\' && s[1] == u'\\';
+bool StartsWithTwoBackslashes(vu::StringView s) {
+    return s.size() >= 2 && s[0] == VU_T('\\') && s[1] == VU_T('\\');
 }
 
-std::size_t Length(const char16_t* s) {
-    return std::char_traits<char16_t>::length(s);
+std::size_t Length(const WCHAR* s) {
+    return std::char_traits<WCHAR>::length(s);
 }
 
 } // namespace
 
 // ---- construction ------------------------------------------------------------
 
-AF_CPath::AF_CPath(const char16_t* path) {
+AF_CPath::AF_CPath(const WCHAR* path) {
     SetPath(path);
 }
 
-AF_CPath& AF_CPath::operator=(const char16_t* path) {
+AF_CPath& AF_CPath::operator=(const WCHAR* path) {
     Clear();
     SetPath(path);
     return *this;
 }
 
-void AF_CPath::SetPath(const char16_t* path) {
+void AF_CPath::SetPath(const WCHAR* path) {
     if (path == nullptr || *path == 0)
         return;
     m_FullPath = Trimmed(path);
     SetMachineAndShare();
 
-    std::u16string drive, dir, fname, ext;
+    vu::String drive, dir, fname, ext;
     vu::SplitPath(m_FullPath.GetString(), &drive, &dir, &fname, &ext);
     m_Drive = drive.size() == 2 && IsAsciiLetter(drive[0]) ? CString(drive[0]) : CString();
     m_Dir = CString(dir);
@@ -86,30 +86,30 @@ void AF_CPath::Clear() {
 void AF_CPath::SetMachineAndShare() {
     m_Machine.Empty();
     m_Share.Empty();
-    const std::u16string_view full = m_FullPath.View();
+    const vu::StringView full = m_FullPath.View();
     if (!StartsWithTwoBackslashes(full))
         return;
-    const std::u16string_view afterSlashes = full.substr(2);
-    const std::size_t machineEnd = afterSlashes.find(u'\\');
+    const vu::StringView afterSlashes = full.substr(2);
+    const std::size_t machineEnd = afterSlashes.find(VU_T('\\'));
     m_Machine = CString(afterSlashes.substr(0, machineEnd));
-    if (machineEnd == std::u16string_view::npos)
+    if (machineEnd == vu::StringView::npos)
         return;
-    const std::u16string_view afterMachine = afterSlashes.substr(machineEnd + 1);
-    m_Share = CString(afterMachine.substr(0, afterMachine.find(u'\\')));
+    const vu::StringView afterMachine = afterSlashes.substr(machineEnd + 1);
+    m_Share = CString(afterMachine.substr(0, afterMachine.find(VU_T('\\'))));
 }
 
 void AF_CPath::BuildPath() {
     CString full;
     if (!m_Drive.IsEmpty()) {
         full += m_Drive;
-        full += u':';
+        full += VU_T(':');
     }
     full += m_Dir;
     if (!m_Dir.IsEmpty() && !EndsWithSeparator(m_Dir))
         full += FileSystem::SeparatorFor(m_Dir.View());
     full += m_Root;
     if (!m_Ext.IsEmpty()) {
-        full += u'.';
+        full += VU_T('.');
         full += m_Ext;
     }
     m_FullPath = full;
@@ -120,16 +120,16 @@ void AF_CPath::BuildPath() {
 CString AF_CPath::GetDriveDir() const {
     if (m_Drive.IsEmpty())
         return m_Dir;
-    return m_Drive + u':' + m_Dir;
+    return m_Drive + VU_T(':') + m_Dir;
 }
 
 CString AF_CPath::GetName() const {
-    return m_Root + u'.' + m_Ext;
+    return m_Root + VU_T('.') + m_Ext;
 }
 
 // ---- setters ---------------------------------------------------------------------
 
-void AF_CPath::SetDrive(const char16_t* drive) {
+void AF_CPath::SetDrive(const WCHAR* drive) {
     if (drive == nullptr)
         return;
     const CString t = Trimmed(drive);
@@ -139,7 +139,7 @@ void AF_CPath::SetDrive(const char16_t* drive) {
     BuildPath();
 }
 
-void AF_CPath::SetDir(const char16_t* dir) {
+void AF_CPath::SetDir(const WCHAR* dir) {
     if (dir == nullptr)
         return;
     m_Dir = Trimmed(dir);
@@ -148,7 +148,7 @@ void AF_CPath::SetDir(const char16_t* dir) {
     SetMachineAndShare();
 }
 
-void AF_CPath::SetDriveDir(const char16_t* driveDir) {
+void AF_CPath::SetDriveDir(const WCHAR* driveDir) {
     if (driveDir == nullptr || Length(driveDir) >= static_cast<std::size_t>(kMaxPath))
         return;
     CString t = Trimmed(driveDir);
@@ -161,28 +161,28 @@ void AF_CPath::SetDriveDir(const char16_t* driveDir) {
     SetMachineAndShare();
 }
 
-void AF_CPath::SetRoot(const char16_t* root) {
+void AF_CPath::SetRoot(const WCHAR* root) {
     if (root == nullptr)
         return;
     m_Root = Trimmed(root);
-    if (!m_Root.IsEmpty() && m_Root[m_Root.GetLength() - 1] == u'.')
+    if (!m_Root.IsEmpty() && m_Root[m_Root.GetLength() - 1] == VU_T('.'))
         m_Root.Delete(m_Root.GetLength() - 1);
     BuildPath();
 }
 
-void AF_CPath::SetExt(const char16_t* ext) {
+void AF_CPath::SetExt(const WCHAR* ext) {
     if (ext == nullptr)
         return;
     m_Ext = Trimmed(ext);
-    if (!m_Ext.IsEmpty() && m_Ext[0] == u'.')
+    if (!m_Ext.IsEmpty() && m_Ext[0] == VU_T('.'))
         m_Ext.Delete(0);
     BuildPath();
 }
 
-void AF_CPath::SetName(const char16_t* name) {
+void AF_CPath::SetName(const WCHAR* name) {
     if (name == nullptr)
         return;
-    std::u16string fname, ext;
+    vu::String fname, ext;
     vu::SplitPath(name, nullptr, nullptr, &fname, &ext);
     m_Root = CString(fname);
     m_Ext = CString(ext.empty() ? ext : ext.substr(1));
@@ -201,10 +201,10 @@ bool operator==(const AF_CPath& path, const CString& s) {
 bool operator==(const CString& s, const AF_CPath& path) {
     return AF_CPath(s) == path;
 }
-bool operator==(const AF_CPath& path, const char16_t* s) {
+bool operator==(const AF_CPath& path, const WCHAR* s) {
     return path == AF_CPath(s);
 }
-bool operator==(const char16_t* s, const AF_CPath& path) {
+bool operator==(const WCHAR* s, const AF_CPath& path) {
     return AF_CPath(s) == path;
 }
 bool operator!=(const AF_CPath& path, const CString& s) {
@@ -213,60 +213,60 @@ bool operator!=(const AF_CPath& path, const CString& s) {
 bool operator!=(const CString& s, const AF_CPath& path) {
     return !(s == path);
 }
-bool operator!=(const AF_CPath& path, const char16_t* s) {
+bool operator!=(const AF_CPath& path, const WCHAR* s) {
     return !(path == s);
 }
-bool operator!=(const char16_t* s, const AF_CPath& path) {
+bool operator!=(const WCHAR* s, const AF_CPath& path) {
     return !(s == path);
 }
 
 // ---- static name tests -----------------------------------------------------------
 
-BOOL AF_CPath::IsPathUNC(const char16_t* path) {
+BOOL AF_CPath::IsPathUNC(const WCHAR* path) {
     return path != nullptr && StartsWithTwoBackslashes(path) ? TRUE : FALSE;
 }
 
-BOOL AF_CPath::IsMachineName(const char16_t* path) {
+BOOL AF_CPath::IsMachineName(const WCHAR* path) {
     if (path == nullptr)
         return FALSE;
     const CString t = Trimmed(path);
-    const std::u16string_view s = t.View();
+    const vu::StringView s = t.View();
     if (!StartsWithTwoBackslashes(s))
         return FALSE;
-    const std::size_t end = s.find(u'\\', 2);
-    return end == std::u16string_view::npos || end == s.size() - 1 ? TRUE : FALSE;
+    const std::size_t end = s.find(VU_T('\\'), 2);
+    return end == vu::StringView::npos || end == s.size() - 1 ? TRUE : FALSE;
 }
 
-BOOL AF_CPath::IsShareName(const char16_t* path) {
+BOOL AF_CPath::IsShareName(const WCHAR* path) {
     if (path == nullptr)
         return FALSE;
     const CString t = Trimmed(path);
-    const std::u16string_view s = t.View();
+    const vu::StringView s = t.View();
     if (!StartsWithTwoBackslashes(s))
         return FALSE;
-    const std::size_t machineEnd = s.find(u'\\', 2);
-    if (machineEnd == std::u16string_view::npos || machineEnd == 2)
+    const std::size_t machineEnd = s.find(VU_T('\\'), 2);
+    if (machineEnd == vu::StringView::npos || machineEnd == 2)
         return FALSE; // no share, or no machine
     const std::size_t shareStart = machineEnd + 1;
-    const std::size_t shareEnd = s.find(u'\\', shareStart);
+    const std::size_t shareEnd = s.find(VU_T('\\'), shareStart);
     const std::size_t shareLength =
-        (shareEnd == std::u16string_view::npos ? s.size() : shareEnd) - shareStart;
+        (shareEnd == vu::StringView::npos ? s.size() : shareEnd) - shareStart;
     if (shareLength == 0)
         return FALSE;
-    return shareEnd == std::u16string_view::npos || shareEnd == s.size() - 1 ? TRUE : FALSE;
+    return shareEnd == vu::StringView::npos || shareEnd == s.size() - 1 ? TRUE : FALSE;
 }
 
 // ---- file system -------------------------------------------------------------------
 
-BOOL AF_CPath::DirExists(const char16_t* path) {
+BOOL AF_CPath::DirExists(const WCHAR* path) {
     return path != nullptr && *path != 0 && FileSystem::Exists(path) ? TRUE : FALSE;
 }
 
-BOOL AF_CPath::FileExists(const char16_t* path) {
+BOOL AF_CPath::FileExists(const WCHAR* path) {
     return DirExists(path);
 }
 
-BOOL AF_CPath::DeleteDir(const char16_t* path) {
+BOOL AF_CPath::DeleteDir(const WCHAR* path) {
     return path != nullptr && FileSystem::RemoveDir(path) ? TRUE : FALSE;
 }
 
@@ -279,7 +279,7 @@ BOOL AF_CPath::FileExists() const {
 }
 
 CString AF_CPath::GetCwd() {
-    std::u16string cwd;
+    vu::String cwd;
     if (!FileSystem::GetCwd(kMaxPath, cwd))
         return CString();
     return CString(cwd);
@@ -288,13 +288,13 @@ CString AF_CPath::GetCwd() {
 BOOL AF_CPath::CreateDir() const {
     // The drive's root must exist: 'C:\' on Windows, natively the root '/'.
     if (FileSystem::HasDriveLetters()) {
-        if (m_Drive.GetLength() != 1 || !FileSystem::Exists((m_Drive + u":\\").View()))
+        if (m_Drive.GetLength() != 1 || !FileSystem::Exists((m_Drive + VU_T(":\\")).View()))
             return FALSE;
     } else if (!m_Drive.IsEmpty() || !FileSystem::IsRootedWithoutDrive(m_Dir.View())) {
         return FALSE;
     }
     const CString driveDir = GetDriveDir();
-    const std::u16string_view dd = driveDir.View();
+    const vu::StringView dd = driveDir.View();
     if (dd.size() >= static_cast<std::size_t>(kMaxPath))
         return FALSE;
     std::size_t first = 0;
@@ -306,7 +306,7 @@ BOOL AF_CPath::CreateDir() const {
     for (std::size_t i = first + 1; i <= dd.size(); ++i) {
         if (i < dd.size() && !FileSystem::IsSeparator(dd[i]))
             continue;
-        const std::u16string_view prefix = dd.substr(0, i);
+        const vu::StringView prefix = dd.substr(0, i);
         if (!FileSystem::Exists(prefix) && !FileSystem::MakeDir(prefix))
             return FALSE;
     }
@@ -322,17 +322,17 @@ BOOL AF_CPath::DeleteDir() const {
 BOOL AF_CPath::MakeAbsolute() {
     if (m_FullPath.IsEmpty())
         return TRUE;
-    std::u16string full;
+    vu::String full;
     if (!FileSystem::FullPath(m_FullPath.View(), kFullPathBuffer, full))
         return FALSE;
     SetPath(full.c_str());
     return TRUE;
 }
 
-BOOL AF_CPath::GetLongName(const char16_t* item, CString* longName) {
+BOOL AF_CPath::GetLongName(const WCHAR* item, CString* longName) {
     if (item == nullptr || *item == 0 || longName == nullptr)
         return FALSE;
-    const std::u16string_view s(item);
+    const vu::StringView s(item);
     if (s.size() == 1 && FileSystem::IsSeparator(s[0])) {
         // A lone separator is a drive's root on Windows, which has no name;
         // natively it is the file-system root, which stands for the drive.
@@ -341,12 +341,12 @@ BOOL AF_CPath::GetLongName(const char16_t* item, CString* longName) {
         *longName = CString(s);
         return TRUE;
     }
-    if ((s.size() == 2 || s.size() == 3) && s[1] == u':') {
+    if ((s.size() == 2 || s.size() == 3) && s[1] == VU_T(':')) {
         *longName = CString(s);
         longName->SetAt(0, vu::ToUpper(s[0]));
         return TRUE;
     }
-    std::u16string name;
+    vu::String name;
     if (!FileSystem::FindFirstName(s, name))
         return FALSE;
     *longName = CString(name);
@@ -365,7 +365,7 @@ BOOL AF_CPath::RemoveAliases() {
         if (walk.Done())
             return FALSE;
         result = walk++;
-        result += u'\\';
+        result += VU_T('\\');
     }
     for (;;) {
         const CString item = walk++;

@@ -15,14 +15,14 @@ public:
     // Construction
     AF_CPath() = default;
     AF_CPath(const AF_CPath&) = default;
-    AF_CPath(const char16_t* path);
+    AF_CPath(const WCHAR* path);
     AF_CPath& operator=(const AF_CPath&) = default;
     // Empties every field, then sets the path.
-    AF_CPath& operator=(const char16_t* path);
+    AF_CPath& operator=(const WCHAR* path);
 
     // Sets FullPath to path trimmed of white space and splits it; a null or
     // empty path changes nothing.
-    void SetPath(const char16_t* path);
+    void SetPath(const WCHAR* path);
     void Clear();
     // FullPath = Drive ':' Dir '\' Root '.' Ext, each part only when present
     // (the separator only when Dir does not end in one).
@@ -41,16 +41,16 @@ public:
     // Root, '.', Ext: always with the dot, so 'name' gives 'name.' and an
     // empty path gives '.'.
     CString GetName() const;
-    operator const char16_t*() const { return m_FullPath; }
+    operator const WCHAR*() const { return m_FullPath; }
 
     // Setters: each ignores a null argument and rebuilds FullPath.
-    void SetDrive(const char16_t* drive);
-    void SetDir(const char16_t* dir);
+    void SetDrive(const WCHAR* drive);
+    void SetDir(const WCHAR* dir);
     // Ignored for 261 units or more.
-    void SetDriveDir(const char16_t* driveDir);
-    void SetRoot(const char16_t* root);
-    void SetExt(const char16_t* ext);
-    void SetName(const char16_t* name);
+    void SetDriveDir(const WCHAR* driveDir);
+    void SetRoot(const WCHAR* root);
+    void SetExt(const WCHAR* ext);
+    void SetName(const WCHAR* name);
 
     // Comparison of FullPath, case-blind
     bool operator==(const AF_CPath& other) const;
@@ -73,17 +73,17 @@ public:
     BOOL RemoveAliases();
 
     // Static tests (the name tests trim their argument first)
-    static BOOL IsPathUNC(const char16_t* path);
-    static BOOL IsMachineName(const char16_t* path);
-    static BOOL IsShareName(const char16_t* path);
-    static BOOL DirExists(const char16_t* path);
-    static BOOL FileExists(const char16_t* path);
-    static BOOL DeleteDir(const char16_t* path);
+    static BOOL IsPathUNC(const WCHAR* path);
+    static BOOL IsMachineName(const WCHAR* path);
+    static BOOL IsShareName(const WCHAR* path);
+    static BOOL DirExists(const WCHAR* path);
+    static BOOL FileExists(const WCHAR* path);
+    static BOOL DeleteDir(const WCHAR* path);
     // The current directory; empty if it needs more than 260 units.
     static CString GetCwd();
     // The long form of one path item: a drive root ('c:' or 'c:\') with its
     // letter upper-cased, else the stored name of the last component.
-    static BOOL GetLongName(const char16_t* item, CString* longName);
+    static BOOL GetLongName(const WCHAR* item, CString* longName);
 
     // The buffer size, in units with the terminator, of the fixed path
     // buffers these operations work within.
@@ -105,9 +105,9 @@ private:
 // sides are trimmed alike.
 bool operator==(const AF_CPath& path, const CString& s);
 bool operator==(const CString& s, const AF_CPath& path);
-bool operator==(const AF_CPath& path, const char16_t* s);
-bool operator==(const char16_t* s, const AF_CPath& path);
+bool operator==(const AF_CPath& path, const WCHAR* s);
+bool operator==(const WCHAR* s, const AF_CPath& path);
 bool operator!=(const AF_CPath& path, const CString& s);
 bool operator!=(const CString& s, const AF_CPath& path);
-bool operator!=(const AF_CPath& path, const char16_t* s);
-bool operator!=(const char16_t* s, const AF_CPath& path);
+bool operator!=(const AF_CPath& path, const WCHAR* s);
+bool operator!=(const WCHAR* s, const AF_CPath& path);

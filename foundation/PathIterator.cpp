@@ -9,11 +9,11 @@ using vu::FileSystem;
 
 namespace {
 
-std::size_t Length(const char16_t* s) {
-    return std::char_traits<char16_t>::length(s);
+std::size_t Length(const WCHAR* s) {
+    return std::char_traits<WCHAR>::length(s);
 }
 
-const char16_t* NextSeparator(const char16_t* p) {
+const WCHAR* NextSeparator(const WCHAR* p) {
     while (*p != 0 && !FileSystem::IsSeparator(*p))
         ++p;
     return p;
@@ -26,7 +26,7 @@ AF_CPathIterator::AF_CPathIterator() : m_rest(nullptr) {
     m_current[0] = 0;
 }
 
-AF_CPathIterator::AF_CPathIterator(const char16_t* path) : AF_CPathIterator() {
+AF_CPathIterator::AF_CPathIterator(const WCHAR* path) : AF_CPathIterator() {
     SetPath(path);
 }
 
@@ -44,7 +44,7 @@ AF_CPathIterator& AF_CPathIterator::operator=(const AF_CPathIterator& other) {
     return *this;
 }
 
-void AF_CPathIterator::SetPath(const char16_t* path) {
+void AF_CPathIterator::SetPath(const WCHAR* path) {
     m_path[0] = 0;
     m_current[0] = 0;
     m_rest = nullptr;
@@ -54,32 +54,32 @@ void AF_CPathIterator::SetPath(const char16_t* path) {
     const bool needsSeparator = !FileSystem::IsSeparator(path[length - 1]);
     if (length + (needsSeparator ? 1 : 0) >= static_cast<std::size_t>(kBufferUnits))
         return;
-    std::memcpy(m_path, path, length * sizeof(char16_t));
+    std::memcpy(m_path, path, length * sizeof(WCHAR));
     if (needsSeparator) {
-        const char16_t separator = FileSystem::SeparatorFor(std::u16string_view(path, length));
+        const WCHAR separator = FileSystem::SeparatorFor(vu::StringView(path, length));
         m_path[length++] = separator;
     }
     m_path[length] = 0;
     First();
 }
 
-void AF_CPathIterator::SetCurrent(const char16_t* end) {
+void AF_CPathIterator::SetCurrent(const WCHAR* end) {
     const std::size_t n = static_cast<std::size_t>(end - m_path);
-    std::memcpy(m_current, m_path, n * sizeof(char16_t));
+    std::memcpy(m_current, m_path, n * sizeof(WCHAR));
     m_current[n] = 0;
 }
 
-const char16_t* AF_CPathIterator::First() {
+const WCHAR* AF_CPathIterator::First() {
     m_current[0] = 0;
     m_rest = nullptr;
     const std::size_t length = Length(m_path);
-    const char16_t* rest = nullptr;
-    if (FileSystem::IsRootedWithoutDrive(std::u16string_view(m_path, length))) {
+    const WCHAR* rest = nullptr;
+    if (FileSystem::IsRootedWithoutDrive(vu::StringView(m_path, length))) {
         rest = m_path + 1; // the root alone
     } else if (length < 3) {
         return m_current;
-    } else if (m_path[0] == u'\\' && m_path[1] == u'\\') {
-        const char16_t* end = NextSeparator(m_path + 2);
+    } else if (m_path[0] == VU_T('\\') && m_path[1] == VU_T('\\')) {
+        const WCHAR* end = NextSeparator(m_path + 2);
         rest = *end == 0 ? end : end + 1; // '\\machine\'
     } else {
         rest = m_path + 3;
@@ -89,7 +89,7 @@ const char16_t* AF_CPathIterator::First() {
     return m_current;
 }
 
-const char16_t* AF_CPathIterator::operator++(int) {
+const WCHAR* AF_CPathIterator::operator++(int) {
     m_current[0] = 0;
     if (m_rest == nullptr)
         return m_current;
@@ -97,7 +97,7 @@ const char16_t* AF_CPathIterator::operator++(int) {
         m_rest = nullptr;
         return m_current;
     }
-    const char16_t* end = NextSeparator(m_rest);
+    const WCHAR* end = NextSeparator(m_rest);
     SetCurrent(end);
     m_rest = *end == 0 ? end : end + 1;
     return m_current;

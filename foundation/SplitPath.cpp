@@ -6,23 +6,22 @@ namespace vu {
 
 namespace {
 
-bool IsSplitSeparator(char16_t c) {
-    return c == u'\\' || c == u'/';
+bool IsSplitSeparator(WCHAR c) {
+    return c == VU_T('\\') || c == VU_T('/');
 }
 
 // Assigns part to out if out was requested; false when it would not fit in
 // a runtime buffer of limit units (terminator included).
-bool Fits(const std::u16string* out, std::u16string_view part, std::size_t limit) {
+bool Fits(const vu::String* out, vu::StringView part, std::size_t limit) {
     return out == nullptr || part.size() < limit;
 }
 
-void Assign(std::u16string* out, std::u16string_view part) {
+void Assign(vu::String* out, vu::StringView part) {
     if (out != nullptr)
         out->assign(part);
 }
 
-void ClearAll(std::u16string* drive, std::u16string* dir, std::u16string* fname,
-              std::u16string* ext) {
+void ClearAll(vu::String* drive, vu::String* dir, vu::String* fname, vu::String* ext) {
     Assign(drive, {});
     Assign(dir, {});
     Assign(fname, {});
@@ -31,20 +30,20 @@ void ClearAll(std::u16string* drive, std::u16string* dir, std::u16string* fname,
 
 } // namespace
 
-bool SplitPath(const char16_t* path, std::u16string* drive, std::u16string* dir,
-               std::u16string* fname, std::u16string* ext) {
+bool SplitPath(const WCHAR* path, vu::String* drive, vu::String* dir, vu::String* fname,
+               vu::String* ext) {
     ClearAll(drive, dir, fname, ext);
     if (path == nullptr)
         return false;
-    std::u16string_view rest(path);
+    vu::StringView rest(path);
 
-    std::u16string_view drivePart;
-    if (rest.size() >= 2 && rest[1] == u':') {
+    vu::StringView drivePart;
+    if (rest.size() >= 2 && rest[1] == VU_T(':')) {
         drivePart = rest.substr(0, 2);
         rest.remove_prefix(2);
     }
 
-    std::u16string_view dirPart;
+    vu::StringView dirPart;
     for (std::size_t i = rest.size(); i-- > 0;) {
         if (IsSplitSeparator(rest[i])) {
             dirPart = rest.substr(0, i + 1);
@@ -53,10 +52,10 @@ bool SplitPath(const char16_t* path, std::u16string* drive, std::u16string* dir,
         }
     }
 
-    std::u16string_view namePart = rest;
-    std::u16string_view extPart;
-    const std::size_t dot = rest.rfind(u'.');
-    if (dot != std::u16string_view::npos) {
+    vu::StringView namePart = rest;
+    vu::StringView extPart;
+    const std::size_t dot = rest.rfind(VU_T('.'));
+    if (dot != vu::StringView::npos) {
         namePart = rest.substr(0, dot);
         extPart = rest.substr(dot);
     }

@@ -13,6 +13,7 @@
 // requested part empty; SplitPath does the same and returns false. A part
 // that is not requested (null pointer) is not checked. Splitting stops at
 // the first 0 unit, as with a C string.
+#include "framework/Char.h"
 #include <cstddef>
 #include <string>
 
@@ -27,7 +28,7 @@ inline constexpr std::size_t kMaxExt = 256;
 // Splits path into the parts whose pointers are not null. Returns false,
 // with every requested part empty, for a null path or a part too long for
 // the runtime's buffer.
-bool SplitPath(const char16_t* path, std::u16string* drive, std::u16string* dir,
-               std::u16string* fname, std::u16string* ext);
+bool SplitPath(const WCHAR* path, vu::String* drive, vu::String* dir, vu::String* fname,
+               vu::String* ext);
 
 } // namespace vu

@@ -8,7 +8,7 @@ namespace {
 // The "C" locale's character set: one unit per byte, 0-127.
 constexpr unsigned kLastCUnit = 0x7F;
 
-std::size_t WideLength(const char16_t* s) {
+std::size_t WideLength(const WCHAR* s) {
     std::size_t n = 0;
     while (s[n] != 0)
         ++n;
@@ -20,8 +20,8 @@ std::size_t WideLength(const char16_t* s) {
 AF_CUStr::AF_CUStr(const char* narrow)
     : m_wide(nullptr), m_narrow(const_cast<char*>(narrow)), m_fromWide(0) {}
 
-AF_CUStr::AF_CUStr(const char16_t* wide)
-    : m_wide(const_cast<char16_t*>(wide)), m_narrow(nullptr), m_fromWide(1) {}
+AF_CUStr::AF_CUStr(const WCHAR* wide)
+    : m_wide(const_cast<WCHAR*>(wide)), m_narrow(nullptr), m_fromWide(1) {}
 
 AF_CUStr::AF_CUStr(const AF_CUStr& other) : m_wide(nullptr), m_narrow(nullptr), m_fromWide(0) {
     CopyFrom(other);
@@ -87,15 +87,15 @@ void AF_CUStr::CopyFrom(const AF_CUStr& other) {
         m_narrow = other.m_narrow;
         m_wide = nullptr;
         if (other.m_wide != nullptr) {
-            const std::size_t bytes = (WideLength(other.m_wide) + 1) * sizeof(char16_t);
-            m_wide = static_cast<char16_t*>(std::malloc(bytes));
+            const std::size_t bytes = (WideLength(other.m_wide) + 1) * sizeof(WCHAR);
+            m_wide = static_cast<WCHAR*>(std::malloc(bytes));
             if (m_wide != nullptr)
                 std::memcpy(m_wide, other.m_wide, bytes);
         }
     }
 }
 
-char16_t* AF_CUStr::Wide() const {
+WCHAR* AF_CUStr::Wide() const {
     if (m_wide == nullptr && !m_fromWide)
         m_wide = uxdup(m_narrow);
     return m_wide;
@@ -107,11 +107,11 @@ char* AF_CUStr::Narrow() const {
     return m_narrow;
 }
 
-char16_t* AF_CUStr::uxdup(const char* narrow) {
+WCHAR* AF_CUStr::uxdup(const char* narrow) {
     if (narrow == nullptr)
         return nullptr;
     const std::size_t length = std::strlen(narrow);
-    auto* wide = static_cast<char16_t*>(std::malloc((length + 1) * sizeof(char16_t)));
+    auto* wide = static_cast<WCHAR*>(std::malloc((length + 1) * sizeof(WCHAR)));
     if (wide == nullptr)
         return nullptr;
     std::size_t i = 0;
@@ -125,7 +125,7 @@ char16_t* AF_CUStr::uxdup(const char* narrow) {
     return wide;
 }
 
-char* AF_CUStr::uxdup(const char16_t* wide) {
+char* AF_CUStr::uxdup(const WCHAR* wide) {
     if (wide == nullptr)
         return nullptr;
     const std::size_t length = WideLength(wide);

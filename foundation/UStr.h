@@ -1,5 +1,5 @@
 #pragma once
-// AF_CUStr: a lazy converter between narrow (char) and wide (char16_t)
+// AF_CUStr: a lazy converter between narrow (char) and wide (WCHAR)
 // text. It keeps the caller's string as it is and converts to the other
 // form only when asked, keeping that copy until it is destroyed; it frees
 // only the copy it made, never the caller's string.
@@ -12,13 +12,14 @@
 // Copies: the caller's string is shared, but a converted copy is duplicated
 // so that every object owns (and frees) its own; a copy therefore reads the
 // same text as its source and outlives it safely.
+#include "framework/Char.h"
 #include <cstddef>
 
 class AF_CUStr {
 public:
     // Construction (a null pointer reads as null in both forms)
     AF_CUStr(const char* narrow);
-    AF_CUStr(const char16_t* wide);
+    AF_CUStr(const WCHAR* wide);
     AF_CUStr(const AF_CUStr& other);
     AF_CUStr(AF_CUStr&& other) noexcept;
     AF_CUStr& operator=(const AF_CUStr& other);
@@ -27,24 +28,24 @@ public:
 
     // The two forms; the one the object was not built from is converted on
     // first use. Null if the source is null or allocation fails.
-    operator const char16_t*() const { return Wide(); }
+    operator const WCHAR*() const { return Wide(); }
     operator const char*() const { return Narrow(); }
 
     // A newly allocated wide copy of narrow text, or narrow copy of wide
     // text (malloc; release with free). Null for a null argument or when
     // allocation fails.
-    static char16_t* uxdup(const char* narrow);
-    static char* uxdup(const char16_t* wide);
+    static WCHAR* uxdup(const char* narrow);
+    static char* uxdup(const WCHAR* wide);
 
 protected:
-    char16_t* Wide() const;
+    WCHAR* Wide() const;
     char* Narrow() const;
 
 private:
     void FreeOwnCopy();
     void CopyFrom(const AF_CUStr& other);
 
-    mutable char16_t* m_wide; // caller's string, or the converted copy we own
-    mutable char* m_narrow;   // caller's string, or the converted copy we own
-    int m_fromWide;           // 1 when built from wide text, 0 from narrow
+    mutable WCHAR* m_wide;  // caller's string, or the converted copy we own
+    mutable char* m_narrow; // caller's string, or the converted copy we own
+    int m_fromWide;         // 1 when built from wide text, 0 from narrow
 };

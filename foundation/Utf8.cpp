@@ -31,12 +31,12 @@ void AppendUtf8(std::string& out, char32_t c) {
     }
 }
 
-void AppendUtf16(std::u16string& out, char32_t c) {
+void AppendUtf16(vu::String& out, char32_t c) {
     if (c >= 0x10000) {
-        out += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
-        out += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
+        out += static_cast<WCHAR>(0xD800 + ((c - 0x10000) >> 10));
+        out += static_cast<WCHAR>(0xDC00 + ((c - 0x10000) & 0x3FF));
     } else {
-        out += static_cast<char16_t>(c);
+        out += static_cast<WCHAR>(c);
     }
 }
 
@@ -51,7 +51,7 @@ int SequenceLength(unsigned char lead) {
 
 } // namespace
 
-std::string Utf16ToUtf8(std::u16string_view text) {
+std::string Utf16ToUtf8(vu::StringView text) {
     std::string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -66,10 +66,10 @@ std::string Utf16ToUtf8(std::u16string_view text) {
     return out;
 }
 
-std::u16string Utf8ToUtf16(std::string_view bytes) {
+vu::String Utf8ToUtf16(std::string_view bytes) {
     static constexpr char32_t kMinimum[] = {0, 0, 0x80, 0x800, 0x10000};
     static constexpr unsigned char kLeadMask[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
-    std::u16string out;
+    vu::String out;
     out.reserve(bytes.size());
     for (std::size_t i = 0; i < bytes.size();) {
         const auto lead = static_cast<unsigned char>(bytes[i]);
@@ -84,7 +84,7 @@ std::u16string Utf8ToUtf16(std::string_view bytes) {
         ok = ok && c >= kMinimum[length] && c <= 0x10FFFF && !IsHighSurrogate(c) &&
              !IsLowSurrogate(c);
         if (!ok) {
-            out += static_cast<char16_t>(kReplacement);
+            out += static_cast<WCHAR>(kReplacement);
             ++i;
             continue;
         }

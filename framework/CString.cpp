@@ -8,14 +8,14 @@
 
 namespace {
 
-std::u16string_view ViewOf(const char16_t* psz) {
-    return psz == nullptr ? std::u16string_view() : std::u16string_view(psz);
+vu::StringView ViewOf(const WCHAR* psz) {
+    return psz == nullptr ? vu::StringView() : vu::StringView(psz);
 }
 
-constexpr std::u16string_view kWhiteSpace = u" \t\r\n\v\f";
+constexpr vu::StringView kWhiteSpace = VU_T(" \t\r\n\v\f");
 
-bool InSet(std::u16string_view set, char16_t ch) {
-    return set.find(ch) != std::u16string_view::npos;
+bool InSet(vu::StringView set, WCHAR ch) {
+    return set.find(ch) != vu::StringView::npos;
 }
 
 int ThreeWay(int r) {
@@ -43,14 +43,14 @@ constexpr int kMaxField = 1 << 20;
 
 class Formatter {
 public:
-    Formatter(std::u16string& out, va_list* args) : m_out(out), m_args(args) {}
+    Formatter(vu::String& out, va_list* args) : m_out(out), m_args(args) {}
 
-    void Run(const char16_t* format) {
-        const char16_t* p = format;
+    void Run(const WCHAR* format) {
+        const WCHAR* p = format;
         while (*p != 0) {
-            if (*p != u'%') {
-                const char16_t* run = p;
-                while (*p != 0 && *p != u'%')
+            if (*p != VU_T('%')) {
+                const WCHAR* run = p;
+                while (*p != 0 && *p != VU_T('%'))
                     ++p;
                 m_out.append(run, p);
                 continue;
@@ -62,24 +62,24 @@ public:
 private:
     // Formats the conversion that starts at the '%' at p; returns the
     // position after it.
-    const char16_t* Conversion(const char16_t* start) {
-        const char16_t* p = start + 1;
+    const WCHAR* Conversion(const WCHAR* start) {
+        const WCHAR* p = start + 1;
         FieldSpec spec;
         for (;; ++p) {
-            if (*p == u'-')
+            if (*p == VU_T('-'))
                 spec.left = true;
-            else if (*p == u'+')
+            else if (*p == VU_T('+'))
                 spec.plus = true;
-            else if (*p == u' ')
+            else if (*p == VU_T(' '))
                 spec.space = true;
-            else if (*p == u'#')
+            else if (*p == VU_T('#'))
                 spec.alt = true;
-            else if (*p == u'0')
+            else if (*p == VU_T('0'))
                 spec.zero = true;
             else
                 break;
         }
-        if (*p == u'*') {
+        if (*p == VU_T('*')) {
             int w = va_arg(*m_args, int);
             if (w < 0) {
                 spec.left = true;
@@ -90,9 +90,9 @@ private:
         } else {
             spec.width = ReadNumber(p);
         }
-        if (*p == u'.') {
+        if (*p == VU_T('.')) {
             ++p;
-            if (*p == u'*') {
+            if (*p == VU_T('*')) {
                 const int prec = va_arg(*m_args, int);
                 spec.precision = prec < 0 ? -1 : std::min(prec, kMaxField);
                 ++p;
@@ -101,7 +101,7 @@ private:
             }
         }
         p = ReadLength(p, spec);
-        const char16_t conv = *p;
+        const WCHAR conv = *p;
         if (conv == 0) {
             m_out.append(start, p); // a dangling conversion is kept as text
             return p;
@@ -111,52 +111,52 @@ private:
         return p + 1;
     }
 
-    static int ReadNumber(const char16_t*& p) {
+    static int ReadNumber(const WCHAR*& p) {
         int n = 0;
-        while (*p >= u'0' && *p <= u'9') {
-            n = std::min(n * 10 + (*p - u'0'), kMaxField);
+        while (*p >= VU_T('0') && *p <= VU_T('9')) {
+            n = std::min(n * 10 + (*p - VU_T('0')), kMaxField);
             ++p;
         }
         return n;
     }
 
-    static const char16_t* ReadLength(const char16_t* p, FieldSpec& spec) {
+    static const WCHAR* ReadLength(const WCHAR* p, FieldSpec& spec) {
         switch (*p) {
-        case u'h':
-            if (p[1] == u'h') {
+        case VU_T('h'):
+            if (p[1] == VU_T('h')) {
                 spec.length = Length::Char;
                 return p + 2;
             }
             spec.length = Length::Short;
             return p + 1;
-        case u'l':
-            if (p[1] == u'l') {
+        case VU_T('l'):
+            if (p[1] == VU_T('l')) {
                 spec.length = Length::LongLong;
                 return p + 2;
             }
             spec.length = Length::Long;
             return p + 1;
-        case u'L':
+        case VU_T('L'):
             spec.length = Length::LongDouble;
             return p + 1;
-        case u'j':
+        case VU_T('j'):
             spec.length = Length::IntMax;
             return p + 1;
-        case u'z':
+        case VU_T('z'):
             spec.length = Length::Size;
             return p + 1;
-        case u't':
+        case VU_T('t'):
             spec.length = Length::PtrDiff;
             return p + 1;
-        case u'w':
+        case VU_T('w'):
             spec.length = Length::Long; // %ws: a wide string
             return p + 1;
-        case u'I':
-            if (p[1] == u'6' && p[2] == u'4') {
+        case VU_T('I'):
+            if (p[1] == VU_T('6') && p[2] == VU_T('4')) {
                 spec.length = Length::LongLong;
                 return p + 3;
             }
-            if (p[1] == u'3' && p[2] == u'2') {
+            if (p[1] == VU_T('3') && p[2] == VU_T('2')) {
                 spec.length = Length::None;
                 return p + 3;
             }
@@ -168,54 +168,54 @@ private:
     }
 
     // Emits one conversion; false for a conversion it does not know.
-    bool Convert(char16_t conv, const FieldSpec& spec) {
+    bool Convert(WCHAR conv, const FieldSpec& spec) {
         switch (conv) {
-        case u'%':
-            m_out.push_back(u'%');
+        case VU_T('%'):
+            m_out.push_back(VU_T('%'));
             return true;
-        case u'd':
-        case u'i':
+        case VU_T('d'):
+        case VU_T('i'):
             Signed(spec);
             return true;
-        case u'u':
+        case VU_T('u'):
             Unsigned(spec, ReadUnsigned(spec.length), 10, false, false);
             return true;
-        case u'o':
+        case VU_T('o'):
             Unsigned(spec, ReadUnsigned(spec.length), 8, false, false);
             return true;
-        case u'x':
+        case VU_T('x'):
             Unsigned(spec, ReadUnsigned(spec.length), 16, false, spec.alt);
             return true;
-        case u'X':
+        case VU_T('X'):
             Unsigned(spec, ReadUnsigned(spec.length), 16, true, spec.alt);
             return true;
-        case u'p':
+        case VU_T('p'):
             Pointer(spec);
             return true;
-        case u'c':
-        case u'C':
+        case VU_T('c'):
+        case VU_T('C'):
             Char(spec);
             return true;
-        case u's':
+        case VU_T('s'):
             if (spec.length == Length::Short)
                 NarrowString(spec);
             else
                 WideString(spec);
             return true;
-        case u'S':
+        case VU_T('S'):
             if (spec.length == Length::Long)
                 WideString(spec);
             else
                 NarrowString(spec);
             return true;
-        case u'e':
-        case u'E':
-        case u'f':
-        case u'F':
-        case u'g':
-        case u'G':
-        case u'a':
-        case u'A':
+        case VU_T('e'):
+        case VU_T('E'):
+        case VU_T('f'):
+        case VU_T('F'):
+        case VU_T('g'):
+        case VU_T('G'):
+        case VU_T('a'):
+        case VU_T('A'):
             Floating(spec, conv);
             return true;
         default:
@@ -271,24 +271,24 @@ private:
         const long long v = ReadSigned(spec.length);
         const unsigned long long magnitude =
             v < 0 ? 0ULL - static_cast<unsigned long long>(v) : static_cast<unsigned long long>(v);
-        std::u16string prefix;
+        vu::String prefix;
         if (v < 0)
-            prefix = u"-";
+            prefix = VU_T("-");
         else if (spec.plus)
-            prefix = u"+";
+            prefix = VU_T("+");
         else if (spec.space)
-            prefix = u" ";
+            prefix = VU_T(" ");
         Number(spec, prefix, Digits(magnitude, 10, false, spec.precision));
     }
 
     void Unsigned(const FieldSpec& spec, unsigned long long v, unsigned base, bool upper,
                   bool hexPrefix) {
-        std::u16string digits = Digits(v, base, upper, spec.precision);
-        if (base == 8 && spec.alt && (digits.empty() || digits[0] != u'0'))
-            digits.insert(digits.begin(), u'0');
-        std::u16string prefix;
+        vu::String digits = Digits(v, base, upper, spec.precision);
+        if (base == 8 && spec.alt && (digits.empty() || digits[0] != VU_T('0')))
+            digits.insert(digits.begin(), VU_T('0'));
+        vu::String prefix;
         if (hexPrefix && v != 0)
-            prefix = upper ? u"0X" : u"0x";
+            prefix = upper ? VU_T("0X") : VU_T("0x");
         Number(spec, prefix, digits);
     }
 
@@ -299,9 +299,9 @@ private:
         Unsigned(padded, v, 16, true, false);
     }
 
-    static std::u16string Digits(unsigned long long v, unsigned base, bool upper, int precision) {
-        const char16_t* set = upper ? u"0123456789ABCDEF" : u"0123456789abcdef";
-        std::u16string digits;
+    static vu::String Digits(unsigned long long v, unsigned base, bool upper, int precision) {
+        const WCHAR* set = upper ? VU_T("0123456789ABCDEF") : VU_T("0123456789abcdef");
+        vu::String digits;
         if (v == 0 && precision == 0)
             return digits; // "%.0d" of zero prints no digits
         do {
@@ -309,49 +309,49 @@ private:
             v /= base;
         } while (v != 0);
         if (precision > 0 && static_cast<int>(digits.size()) < precision)
-            digits.append(precision - digits.size(), u'0');
+            digits.append(precision - digits.size(), VU_T('0'));
         std::reverse(digits.begin(), digits.end());
         return digits;
     }
 
     // Pads a number: zeros go between the prefix and the digits when the
     // '0' flag applies (not with '-' nor with a precision), spaces outside.
-    void Number(const FieldSpec& spec, std::u16string_view prefix, std::u16string_view digits) {
+    void Number(const FieldSpec& spec, vu::StringView prefix, vu::StringView digits) {
         const int len = static_cast<int>(prefix.size() + digits.size());
         const int pad = spec.width > len ? spec.width - len : 0;
         if (spec.zero && !spec.left && spec.precision < 0) {
             m_out.append(prefix);
-            m_out.append(pad, u'0');
+            m_out.append(pad, VU_T('0'));
             m_out.append(digits);
             return;
         }
         if (!spec.left)
-            m_out.append(pad, u' ');
+            m_out.append(pad, VU_T(' '));
         m_out.append(prefix);
         m_out.append(digits);
         if (spec.left)
-            m_out.append(pad, u' ');
+            m_out.append(pad, VU_T(' '));
     }
 
-    void Text(const FieldSpec& spec, std::u16string_view text) {
+    void Text(const FieldSpec& spec, vu::StringView text) {
         const int len = static_cast<int>(text.size());
         const int pad = spec.width > len ? spec.width - len : 0;
         if (!spec.left)
-            m_out.append(pad, spec.zero ? u'0' : u' ');
+            m_out.append(pad, spec.zero ? VU_T('0') : VU_T(' '));
         m_out.append(text);
         if (spec.left)
-            m_out.append(pad, u' ');
+            m_out.append(pad, VU_T(' '));
     }
 
     void Char(const FieldSpec& spec) {
-        const char16_t ch = static_cast<char16_t>(va_arg(*m_args, int));
-        Text(spec, std::u16string_view(&ch, 1));
+        const WCHAR ch = static_cast<WCHAR>(va_arg(*m_args, int));
+        Text(spec, vu::StringView(&ch, 1));
     }
 
     void WideString(const FieldSpec& spec) {
-        const char16_t* s = va_arg(*m_args, const char16_t*);
-        std::u16string_view text =
-            s == nullptr ? std::u16string_view(u"(null)") : LimitedView(s, spec.precision);
+        const WCHAR* s = va_arg(*m_args, const WCHAR*);
+        vu::StringView text =
+            s == nullptr ? vu::StringView(VU_T("(null)")) : LimitedView(s, spec.precision);
         if (s == nullptr && spec.precision >= 0)
             text = text.substr(0, spec.precision);
         Text(spec, text);
@@ -362,7 +362,7 @@ private:
         const char* s = va_arg(*m_args, const char*);
         if (s == nullptr)
             s = "(null)";
-        std::u16string wide;
+        vu::String wide;
         for (int i = 0; s[i] != 0 && (spec.precision < 0 || i < spec.precision); ++i)
             wide.push_back(static_cast<unsigned char>(s[i]));
         Text(spec, wide);
@@ -370,14 +370,14 @@ private:
 
     // The string up to its terminator or precision units, whichever is
     // first; the terminator is not searched beyond the precision.
-    static std::u16string_view LimitedView(const char16_t* s, int precision) {
+    static vu::StringView LimitedView(const WCHAR* s, int precision) {
         std::size_t n = 0;
         while ((precision < 0 || n < static_cast<std::size_t>(precision)) && s[n] != 0)
             ++n;
-        return std::u16string_view(s, n);
+        return vu::StringView(s, n);
     }
 
-    void Floating(const FieldSpec& spec, char16_t conv) {
+    void Floating(const FieldSpec& spec, WCHAR conv) {
         char narrowFormat[32];
         int n = 0;
         narrowFormat[n++] = '%';
@@ -426,11 +426,11 @@ private:
         return written < 0 ? 0 : written;
     }
 
-    std::u16string& m_out;
+    vu::String& m_out;
     va_list* m_args;
 };
 
-void FormatInto(std::u16string& out, const char16_t* format, va_list args) {
+void FormatInto(vu::String& out, const WCHAR* format, va_list args) {
     if (format == nullptr)
         return;
     va_list copy;
@@ -443,64 +443,64 @@ void FormatInto(std::u16string& out, const char16_t* format, va_list args) {
 
 // ---- construction ----------------------------------------------------------
 
-CString::CString(const char16_t* psz) : m_str(ViewOf(psz)) {}
+CString::CString(const WCHAR* psz) : m_str(ViewOf(psz)) {}
 
-CString::CString(const char16_t* pch, int length) {
+CString::CString(const WCHAR* pch, int length) {
     if (pch != nullptr && length > 0)
         m_str.assign(pch, static_cast<std::size_t>(length));
 }
 
-CString::CString(char16_t ch, int repeat) {
+CString::CString(WCHAR ch, int repeat) {
     if (repeat > 0)
         m_str.assign(static_cast<std::size_t>(repeat), ch);
 }
 
-CString& CString::operator=(const char16_t* psz) {
+CString& CString::operator=(const WCHAR* psz) {
     // psz may point into this string: build first, then swap in.
-    std::u16string copy(ViewOf(psz));
+    vu::String copy(ViewOf(psz));
     m_str.swap(copy);
     return *this;
 }
 
-CString& CString::operator=(char16_t ch) {
+CString& CString::operator=(WCHAR ch) {
     m_str.assign(1, ch);
     return *this;
 }
 
-CString& CString::operator=(std::u16string_view sv) {
-    std::u16string copy(sv);
+CString& CString::operator=(vu::StringView sv) {
+    vu::String copy(sv);
     m_str.swap(copy);
     return *this;
 }
 
 // ---- attributes and buffer -------------------------------------------------
 
-char16_t CString::GetAt(int index) const {
+WCHAR CString::GetAt(int index) const {
     if (index < 0 || index >= GetLength())
         return 0;
     return m_str[static_cast<std::size_t>(index)];
 }
 
-void CString::SetAt(int index, char16_t ch) {
+void CString::SetAt(int index, WCHAR ch) {
     if (index >= 0 && index < GetLength())
         m_str[static_cast<std::size_t>(index)] = ch;
 }
 
-char16_t* CString::GetBuffer(int minLength) {
+WCHAR* CString::GetBuffer(int minLength) {
     if (minLength > GetLength())
         m_str.resize(static_cast<std::size_t>(minLength));
     return m_str.data();
 }
 
-char16_t* CString::GetBufferSetLength(int length) {
+WCHAR* CString::GetBufferSetLength(int length) {
     m_str.resize(static_cast<std::size_t>(std::max(length, 0)));
     return m_str.data();
 }
 
 void CString::ReleaseBuffer(int newLength) {
     if (newLength < 0) {
-        const std::size_t end = m_str.find(char16_t(0));
-        if (end != std::u16string::npos)
+        const std::size_t end = m_str.find(WCHAR(0));
+        if (end != vu::String::npos)
             m_str.resize(end);
         return;
     }
@@ -519,33 +519,33 @@ CString& CString::operator+=(const CString& s) {
     return *this;
 }
 
-CString& CString::operator+=(const char16_t* psz) {
+CString& CString::operator+=(const WCHAR* psz) {
     m_str += ViewOf(psz);
     return *this;
 }
 
-CString& CString::operator+=(char16_t ch) {
+CString& CString::operator+=(WCHAR ch) {
     m_str.push_back(ch);
     return *this;
 }
 
-CString& CString::operator+=(std::u16string_view sv) {
+CString& CString::operator+=(vu::StringView sv) {
     m_str += sv;
     return *this;
 }
 
-void CString::Append(const char16_t* pch, int length) {
+void CString::Append(const WCHAR* pch, int length) {
     if (pch != nullptr && length > 0)
         m_str.append(pch, static_cast<std::size_t>(length));
 }
 
 // ---- comparison ------------------------------------------------------------
 
-int CString::Compare(const char16_t* psz) const {
+int CString::Compare(const WCHAR* psz) const {
     return ThreeWay(View().compare(ViewOf(psz)));
 }
 
-int CString::CompareNoCase(const char16_t* psz) const {
+int CString::CompareNoCase(const WCHAR* psz) const {
     return vu::CompareNoCase(View(), ViewOf(psz));
 }
 
@@ -571,25 +571,25 @@ CString CString::Right(int count) const {
     return CString(m_str.data() + (GetLength() - count), count);
 }
 
-CString CString::SpanIncluding(const char16_t* set) const {
+CString CString::SpanIncluding(const WCHAR* set) const {
     const std::size_t end = m_str.find_first_not_of(ViewOf(set));
     return CString(View().substr(0, end));
 }
 
-CString CString::SpanExcluding(const char16_t* set) const {
-    const std::u16string_view s = ViewOf(set);
+CString CString::SpanExcluding(const WCHAR* set) const {
+    const vu::StringView s = ViewOf(set);
     if (s.empty())
         return *this;
     return CString(View().substr(0, m_str.find_first_of(s)));
 }
 
-CString CString::Tokenize(const char16_t* tokens, int& start) const {
+CString CString::Tokenize(const WCHAR* tokens, int& start) const {
     const int length = GetLength();
     if (start < 0 || start >= length) {
         start = -1;
         return CString();
     }
-    const std::u16string_view set = ViewOf(tokens);
+    const vu::StringView set = ViewOf(tokens);
     if (set.empty()) {
         // No delimiters: the rest of the string is the one token.
         CString rest = Mid(start);
@@ -597,12 +597,12 @@ CString CString::Tokenize(const char16_t* tokens, int& start) const {
         return rest;
     }
     const std::size_t begin = m_str.find_first_not_of(set, static_cast<std::size_t>(start));
-    if (begin == std::u16string::npos) {
+    if (begin == vu::String::npos) {
         start = -1;
         return CString();
     }
     std::size_t end = m_str.find_first_of(set, begin);
-    if (end == std::u16string::npos)
+    if (end == vu::String::npos)
         end = m_str.size();
     start = static_cast<int>(end) + 1;
     if (start > length)
@@ -612,51 +612,51 @@ CString CString::Tokenize(const char16_t* tokens, int& start) const {
 
 // ---- searching -------------------------------------------------------------
 
-int CString::Find(char16_t ch, int start) const {
+int CString::Find(WCHAR ch, int start) const {
     if (start < 0)
         start = 0;
     if (start >= GetLength())
         return -1;
     const std::size_t at = m_str.find(ch, static_cast<std::size_t>(start));
-    return at == std::u16string::npos ? -1 : static_cast<int>(at);
+    return at == vu::String::npos ? -1 : static_cast<int>(at);
 }
 
-int CString::Find(const char16_t* sub, int start) const {
+int CString::Find(const WCHAR* sub, int start) const {
     if (sub == nullptr)
         return -1;
     if (start < 0)
         start = 0;
     if (start > GetLength())
         return -1;
-    const std::size_t at = m_str.find(std::u16string_view(sub), static_cast<std::size_t>(start));
-    return at == std::u16string::npos ? -1 : static_cast<int>(at);
+    const std::size_t at = m_str.find(vu::StringView(sub), static_cast<std::size_t>(start));
+    return at == vu::String::npos ? -1 : static_cast<int>(at);
 }
 
-int CString::ReverseFind(char16_t ch) const {
+int CString::ReverseFind(WCHAR ch) const {
     const std::size_t at = m_str.rfind(ch);
-    return at == std::u16string::npos ? -1 : static_cast<int>(at);
+    return at == vu::String::npos ? -1 : static_cast<int>(at);
 }
 
-int CString::FindOneOf(const char16_t* set) const {
-    const std::u16string_view s = ViewOf(set);
+int CString::FindOneOf(const WCHAR* set) const {
+    const vu::StringView s = ViewOf(set);
     if (s.empty())
         return -1;
     const std::size_t at = m_str.find_first_of(s);
-    return at == std::u16string::npos ? -1 : static_cast<int>(at);
+    return at == vu::String::npos ? -1 : static_cast<int>(at);
 }
 
 // ---- editing ---------------------------------------------------------------
 
-int CString::Insert(int index, char16_t ch) {
+int CString::Insert(int index, WCHAR ch) {
     index = std::clamp(index, 0, GetLength());
     m_str.insert(static_cast<std::size_t>(index), 1, ch);
     return GetLength();
 }
 
-int CString::Insert(int index, const char16_t* psz) {
+int CString::Insert(int index, const WCHAR* psz) {
     index = std::clamp(index, 0, GetLength());
     // psz may point into this string: copy it before inserting.
-    const std::u16string text(ViewOf(psz));
+    const vu::String text(ViewOf(psz));
     m_str.insert(static_cast<std::size_t>(index), text);
     return GetLength();
 }
@@ -672,11 +672,11 @@ int CString::Delete(int index, int count) {
     return GetLength();
 }
 
-int CString::Replace(char16_t oldCh, char16_t newCh) {
+int CString::Replace(WCHAR oldCh, WCHAR newCh) {
     if (oldCh == newCh)
         return 0; // nothing would change, so nothing counts as replaced
     int n = 0;
-    for (char16_t& c : m_str) {
+    for (WCHAR& c : m_str) {
         if (c == oldCh) {
             c = newCh;
             ++n;
@@ -685,32 +685,32 @@ int CString::Replace(char16_t oldCh, char16_t newCh) {
     return n;
 }
 
-int CString::Replace(const char16_t* oldText, const char16_t* newText) {
-    const std::u16string_view from = ViewOf(oldText);
+int CString::Replace(const WCHAR* oldText, const WCHAR* newText) {
+    const vu::StringView from = ViewOf(oldText);
     if (from.empty())
         return 0;
     // Both arguments may point into this string: work on copies.
-    const std::u16string pattern(from);
-    const std::u16string replacement(ViewOf(newText));
+    const vu::String pattern(from);
+    const vu::String replacement(ViewOf(newText));
     std::size_t at = m_str.find(pattern);
-    if (at == std::u16string::npos)
+    if (at == vu::String::npos)
         return 0;
-    std::u16string result;
+    vu::String result;
     result.reserve(m_str.size());
     std::size_t done = 0;
     int n = 0;
-    for (; at != std::u16string::npos; at = m_str.find(pattern, done)) {
+    for (; at != vu::String::npos; at = m_str.find(pattern, done)) {
         result.append(m_str, done, at - done);
         result += replacement;
         done = at + pattern.size();
         ++n;
     }
-    result.append(m_str, done, std::u16string::npos);
+    result.append(m_str, done, vu::String::npos);
     m_str.swap(result);
     return n;
 }
 
-int CString::Remove(char16_t ch) {
+int CString::Remove(WCHAR ch) {
     const std::size_t before = m_str.size();
     std::erase(m_str, ch);
     return static_cast<int>(before - m_str.size());
@@ -737,11 +737,11 @@ CString& CString::Trim() {
     return TrimRight().TrimLeft();
 }
 
-CString& CString::Trim(char16_t ch) {
+CString& CString::Trim(WCHAR ch) {
     return TrimRight(ch).TrimLeft(ch);
 }
 
-CString& CString::Trim(const char16_t* set) {
+CString& CString::Trim(const WCHAR* set) {
     return TrimRight(set).TrimLeft(set);
 }
 
@@ -749,13 +749,13 @@ CString& CString::TrimLeft() {
     return TrimLeft(kWhiteSpace.data());
 }
 
-CString& CString::TrimLeft(char16_t ch) {
-    const char16_t set[2] = {ch, 0};
+CString& CString::TrimLeft(WCHAR ch) {
+    const WCHAR set[2] = {ch, 0};
     return ch == 0 ? *this : TrimLeft(set);
 }
 
-CString& CString::TrimLeft(const char16_t* set) {
-    const std::u16string_view s = ViewOf(set);
+CString& CString::TrimLeft(const WCHAR* set) {
+    const vu::StringView s = ViewOf(set);
     std::size_t begin = 0;
     while (begin < m_str.size() && InSet(s, m_str[begin]))
         ++begin;
@@ -767,13 +767,13 @@ CString& CString::TrimRight() {
     return TrimRight(kWhiteSpace.data());
 }
 
-CString& CString::TrimRight(char16_t ch) {
-    const char16_t set[2] = {ch, 0};
+CString& CString::TrimRight(WCHAR ch) {
+    const WCHAR set[2] = {ch, 0};
     return ch == 0 ? *this : TrimRight(set);
 }
 
-CString& CString::TrimRight(const char16_t* set) {
-    const std::u16string_view s = ViewOf(set);
+CString& CString::TrimRight(const WCHAR* set) {
+    const vu::StringView s = ViewOf(set);
     std::size_t end = m_str.size();
     while (end > 0 && InSet(s, m_str[end - 1]))
         --end;
@@ -783,33 +783,33 @@ CString& CString::TrimRight(const char16_t* set) {
 
 // ---- formatting ------------------------------------------------------------
 
-const char16_t* vu::detail::FormatArg(const CString& s) {
+const WCHAR* vu::detail::FormatArg(const CString& s) {
     return s.GetString();
 }
 
-void CString::FormatList(const char16_t* format, ...) {
+void CString::FormatList(const WCHAR* format, ...) {
     va_list args;
     va_start(args, format);
     FormatV(format, args);
     va_end(args);
 }
 
-void CString::FormatV(const char16_t* format, va_list args) {
-    std::u16string out;
+void CString::FormatV(const WCHAR* format, va_list args) {
+    vu::String out;
     FormatInto(out, format, args);
     m_str.swap(out);
 }
 
-void CString::AppendFormatList(const char16_t* format, ...) {
+void CString::AppendFormatList(const WCHAR* format, ...) {
     va_list args;
     va_start(args, format);
     AppendFormatV(format, args);
     va_end(args);
 }
 
-void CString::AppendFormatV(const char16_t* format, va_list args) {
+void CString::AppendFormatV(const WCHAR* format, va_list args) {
     // Format into a separate string: an argument may point into this one.
-    std::u16string out;
+    vu::String out;
     FormatInto(out, format, args);
     m_str += out;
 }
@@ -822,25 +822,25 @@ CString operator+(const CString& a, const CString& b) {
     return r;
 }
 
-CString operator+(const CString& a, const char16_t* b) {
+CString operator+(const CString& a, const WCHAR* b) {
     CString r(a);
     r += b;
     return r;
 }
 
-CString operator+(const char16_t* a, const CString& b) {
+CString operator+(const WCHAR* a, const CString& b) {
     CString r(a);
     r += b;
     return r;
 }
 
-CString operator+(const CString& a, char16_t b) {
+CString operator+(const CString& a, WCHAR b) {
     CString r(a);
     r += b;
     return r;
 }
 
-CString operator+(char16_t a, const CString& b) {
+CString operator+(WCHAR a, const CString& b) {
     CString r(a);
     r += b;
     return r;
@@ -851,12 +851,12 @@ CString operator+(CString&& a, const CString& b) {
     return std::move(a);
 }
 
-CString operator+(CString&& a, const char16_t* b) {
+CString operator+(CString&& a, const WCHAR* b) {
     a += b;
     return std::move(a);
 }
 
-CString operator+(CString&& a, char16_t b) {
+CString operator+(CString&& a, WCHAR b) {
     a += b;
     return std::move(a);
 }
@@ -864,54 +864,54 @@ CString operator+(CString&& a, char16_t b) {
 bool operator==(const CString& a, const CString& b) {
     return a.View() == b.View();
 }
-bool operator==(const CString& a, const char16_t* b) {
+bool operator==(const CString& a, const WCHAR* b) {
     return a.View() == ViewOf(b);
 }
-bool operator==(const char16_t* a, const CString& b) {
+bool operator==(const WCHAR* a, const CString& b) {
     return ViewOf(a) == b.View();
 }
 bool operator!=(const CString& a, const CString& b) {
     return !(a == b);
 }
-bool operator!=(const CString& a, const char16_t* b) {
+bool operator!=(const CString& a, const WCHAR* b) {
     return !(a == b);
 }
-bool operator!=(const char16_t* a, const CString& b) {
+bool operator!=(const WCHAR* a, const CString& b) {
     return !(a == b);
 }
 bool operator<(const CString& a, const CString& b) {
     return a.View() < b.View();
 }
-bool operator<(const CString& a, const char16_t* b) {
+bool operator<(const CString& a, const WCHAR* b) {
     return a.View() < ViewOf(b);
 }
-bool operator<(const char16_t* a, const CString& b) {
+bool operator<(const WCHAR* a, const CString& b) {
     return ViewOf(a) < b.View();
 }
 bool operator>(const CString& a, const CString& b) {
     return b < a;
 }
-bool operator>(const CString& a, const char16_t* b) {
+bool operator>(const CString& a, const WCHAR* b) {
     return b < a;
 }
-bool operator>(const char16_t* a, const CString& b) {
+bool operator>(const WCHAR* a, const CString& b) {
     return b < a;
 }
 bool operator<=(const CString& a, const CString& b) {
     return !(b < a);
 }
-bool operator<=(const CString& a, const char16_t* b) {
+bool operator<=(const CString& a, const WCHAR* b) {
     return !(b < a);
 }
-bool operator<=(const char16_t* a, const CString& b) {
+bool operator<=(const WCHAR* a, const CString& b) {
     return !(b < a);
 }
 bool operator>=(const CString& a, const CString& b) {
     return !(a < b);
 }
-bool operator>=(const CString& a, const char16_t* b) {
+bool operator>=(const CString& a, const WCHAR* b) {
     return !(a < b);
 }
-bool operator>=(const char16_t* a, const CString& b) {
+bool operator>=(const WCHAR* a, const CString& b) {
     return !(a < b);
 }

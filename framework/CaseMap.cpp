@@ -2,13 +2,13 @@
 
 namespace vu {
 
-int CompareNoCase(std::u16string_view a, std::u16string_view b) {
+int CompareNoCase(vu::StringView a, vu::StringView b) {
     const std::size_t n = a.size() < b.size() ? a.size() : b.size();
     for (std::size_t i = 0; i < n; ++i) {
         if (a[i] == b[i])
             continue;
-        const char16_t la = ToLower(a[i]);
-        const char16_t lb = ToLower(b[i]);
+        const WCHAR la = ToLower(a[i]);
+        const WCHAR lb = ToLower(b[i]);
         if (la != lb)
             return la < lb ? -1 : 1;
     }
@@ -17,7 +17,7 @@ int CompareNoCase(std::u16string_view a, std::u16string_view b) {
     return a.size() < b.size() ? -1 : 1;
 }
 
-bool EqualNoCase(std::u16string_view a, std::u16string_view b) {
+bool EqualNoCase(vu::StringView a, vu::StringView b) {
     if (a.size() != b.size())
         return false;
     for (std::size_t i = 0; i < a.size(); ++i) {
@@ -27,12 +27,12 @@ bool EqualNoCase(std::u16string_view a, std::u16string_view b) {
     return true;
 }
 
-void MakeLower(char16_t* s, std::size_t n) {
+void MakeLower(WCHAR* s, std::size_t n) {
     for (std::size_t i = 0; i < n; ++i)
         s[i] = ToLower(s[i]);
 }
 
-void MakeUpper(char16_t* s, std::size_t n) {
+void MakeUpper(WCHAR* s, std::size_t n) {
     for (std::size_t i = 0; i < n; ++i)
         s[i] = ToUpper(s[i]);
 }

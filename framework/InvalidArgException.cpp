@@ -2,7 +2,7 @@
 
 namespace {
 
-bool CopyMessage(const char16_t* text, char16_t* buf, unsigned maxChars) {
+bool CopyMessage(const WCHAR* text, WCHAR* buf, unsigned maxChars) {
     if (buf == nullptr || maxChars == 0)
         return false;
     unsigned i = 0;
@@ -14,14 +14,14 @@ bool CopyMessage(const char16_t* text, char16_t* buf, unsigned maxChars) {
 
 } // namespace
 
-bool CException::GetErrorMessage(char16_t* buf, unsigned maxChars) const {
+bool CException::GetErrorMessage(WCHAR* buf, unsigned maxChars) const {
     if (buf != nullptr && maxChars > 0)
         buf[0] = 0;
     return false;
 }
 
-bool CInvalidArgException::GetErrorMessage(char16_t* buf, unsigned maxChars) const {
-    return CopyMessage(u"Invalid argument.", buf, maxChars);
+bool CInvalidArgException::GetErrorMessage(WCHAR* buf, unsigned maxChars) const {
+    return CopyMessage(VU_T("Invalid argument."), buf, maxChars);
 }
 
 void AfxThrowInvalidArgException() {

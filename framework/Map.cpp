@@ -1,6 +1,6 @@
 #include "framework/Map.h"
 
-UINT HashString(const char16_t* key) {
+UINT HashString(const WCHAR* key) {
     UINT hash = 0;
     if (key == nullptr)
         return hash;

@@ -27,8 +27,8 @@ template <class ARG_KEY> inline UINT HashKey(ARG_KEY key) {
 }
 
 // Strings hash over their code units (hash * 33 + unit).
-UINT HashString(const char16_t* key);
-template <> inline UINT HashKey<const char16_t*>(const char16_t* key) {
+UINT HashString(const WCHAR* key);
+template <> inline UINT HashKey<const WCHAR*>(const WCHAR* key) {
     return HashString(key);
 }
 template <> inline UINT HashKey<const CString&>(const CString& key) {

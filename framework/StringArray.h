@@ -9,9 +9,9 @@ public:
     using CArray::CArray;
 
     using CArray::Add;
-    INT_PTR Add(const char16_t* psz) { return CArray::Add(CString(psz)); }
+    INT_PTR Add(const WCHAR* psz) { return CArray::Add(CString(psz)); }
     using CArray::SetAt;
-    void SetAt(INT_PTR index, const char16_t* psz) { CArray::SetAt(index, CString(psz)); }
+    void SetAt(INT_PTR index, const WCHAR* psz) { CArray::SetAt(index, CString(psz)); }
     using CArray::SetAtGrow;
-    void SetAtGrow(INT_PTR index, const char16_t* psz) { CArray::SetAtGrow(index, CString(psz)); }
+    void SetAtGrow(INT_PTR index, const WCHAR* psz) { CArray::SetAtGrow(index, CString(psz)); }
 };

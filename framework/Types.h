@@ -2,6 +2,8 @@
 // The Windows scalar types that the framework's signatures use. On Windows
 // these are spelled exactly as the system headers spell them, so that a
 // translation unit may include both <windows.h> and this header.
+#include "framework/Char.h"
+
 #include <cstdint>
 
 #ifndef FALSE

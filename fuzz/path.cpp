@@ -23,41 +23,41 @@ void Check(bool condition) {
 
 // Path-heavy alphabet: separators, dots, colons, spaces, letters, one unit
 // beyond ASCII; sometimes a long run to reach the 255-unit limits.
-std::u16string PathText(FuzzedDataProvider& in) {
-    static const char16_t alphabet[] = u"\\/.:  aBz1\t\u00e9";
-    std::u16string s;
+vu::String PathText(FuzzedDataProvider& in) {
+    static const WCHAR alphabet[] = VU_T("\\/.:  aBz1\t\u00e9");
+    vu::String s;
     const std::size_t n = in.ConsumeIntegralInRange<std::size_t>(0, 40);
     for (std::size_t i = 0; i < n; ++i) {
         const auto pick = in.ConsumeIntegralInRange<std::size_t>(0, std::size(alphabet) - 1);
         if (pick == std::size(alphabet) - 1)
-            s.append(in.ConsumeIntegralInRange<std::size_t>(1, 300), u'x');
+            s.append(in.ConsumeIntegralInRange<std::size_t>(1, 300), VU_T('x'));
         else
             s += alphabet[pick];
     }
     return s;
 }
 
-void CheckSplit(const std::u16string& path) {
-    std::u16string drive, dir, fname, ext;
+void CheckSplit(const vu::String& path) {
+    vu::String drive, dir, fname, ext;
     if (vu::SplitPath(path.c_str(), &drive, &dir, &fname, &ext)) {
         Check(drive + dir + fname + ext == path);
-        Check(dir.empty() || dir.back() == u'\\' || dir.back() == u'/');
-        Check(fname.find_first_of(u"\\/") == std::u16string::npos);
+        Check(dir.empty() || dir.back() == VU_T('\\') || dir.back() == VU_T('/'));
+        Check(fname.find_first_of(VU_T("\\/")) == vu::String::npos);
         Check(ext.empty() ||
-              (ext[0] == u'.' && ext.find_first_of(u"\\/.", 1) == std::u16string::npos));
+              (ext[0] == VU_T('.') && ext.find_first_of(VU_T("\\/."), 1) == vu::String::npos));
     } else {
         Check(drive.empty() && dir.empty() && fname.empty() && ext.empty());
         Check(path.size() >= vu::kMaxFname - 1); // some part had 255 units or more
     }
 }
 
-void CheckWalk(const std::u16string& path) {
+void CheckWalk(const vu::String& path) {
     AF_CPathIterator it(path.c_str());
-    std::u16string previous = it.First();
+    vu::String previous = it.First();
     std::size_t steps = 0;
     while (!it.Done()) {
         Check(++steps <= path.size() + 2);
-        const std::u16string item = it++;
+        const vu::String item = it++;
         if (it.Done()) {
             Check(item.empty());
             break;
@@ -71,7 +71,7 @@ void CheckWalk(const std::u16string& path) {
 void EditPath(FuzzedDataProvider& in) {
     AF_CPath p(PathText(in).c_str());
     for (int i = 0; i < 6 && in.remaining_bytes() > 0; ++i) {
-        const std::u16string arg = PathText(in);
+        const vu::String arg = PathText(in);
         switch (in.ConsumeIntegralInRange(0, 7)) {
         case 0:
             p.SetDrive(arg.c_str());
@@ -117,15 +117,15 @@ void EditString(FuzzedDataProvider& in) {
     a = b = text;
     Check(a.remove_substr(set, pos) == b.remove_substr(set, pos, AF_GString::npos));
     a = b = text;
-    Check(a.convert(set, u"#", pos) == b.convert(set, u"#", pos, AF_GString::npos));
+    Check(a.convert(set, VU_T("#"), pos) == b.convert(set, VU_T("#"), pos, AF_GString::npos));
     a = text;
     a.reduce_repeat(set, pos);
     Check(a.size() <= text.size());
     a = text;
     const auto n = in.ConsumeIntegralInRange<std::size_t>(0, 5);
     a.mnemonic(set, n);
-    Check(a.find_first_of(set) == std::u16string::npos || set.empty());
-    (void)text.substr(set, AF_GString(u"."));
+    Check(a.find_first_of(set) == vu::String::npos || set.empty());
+    (void)text.substr(set, AF_GString(VU_T(".")));
     Check(text.count(set, pos) <= text.size());
 }
 
@@ -133,7 +133,7 @@ void EditString(FuzzedDataProvider& in) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     FuzzedDataProvider in(data, size);
-    const std::u16string path = PathText(in);
+    const vu::String path = PathText(in);
     CheckSplit(path);
     CheckWalk(path);
     EditPath(in);

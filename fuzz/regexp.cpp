@@ -14,14 +14,14 @@ namespace {
 
 // Bytes below 0x80 are ASCII units; the others spread over the BMP so that
 // sets and literals see high units too.
-std::u16string Widen(const uint8_t* data, size_t size) {
-    std::u16string s;
+vu::String Widen(const uint8_t* data, size_t size) {
+    vu::String s;
     s.reserve(size);
     for (size_t i = 0; i < size; ++i) {
         const uint8_t b = data[i];
         if (b == 0)
             continue; // strings are NUL-terminated
-        s += b < 0x80 ? char16_t(b) : char16_t(0x80 + (b - 0x80) * 0x1FF);
+        s += b < 0x80 ? WCHAR(b) : WCHAR(0x80 + (b - 0x80) * 0x1FF);
     }
     return s;
 }
@@ -31,7 +31,7 @@ void Check(bool condition) {
         __builtin_trap();
 }
 
-void CheckMatch(const VU_CRegExpression& re, const std::u16string& text, int index) {
+void CheckMatch(const VU_CRegExpression& re, const vu::String& text, int index) {
     if (index < 0) {
         Check(re.GetFoundText() == nullptr);
         return;
@@ -39,8 +39,7 @@ void CheckMatch(const VU_CRegExpression& re, const std::u16string& text, int ind
     const int length = re.GetFindLen();
     Check(size_t(index) + size_t(length) <= text.size());
     Check(re.GetGroupStart(0) == index && re.GetGroupEnd(0) == index + length);
-    Check(std::u16string_view(re.GetFoundText()) ==
-          std::u16string_view(text).substr(index, length));
+    Check(vu::StringView(re.GetFoundText()) == vu::StringView(text).substr(index, length));
     for (int n = 1; n < VU_CRegExpression::kGroupCount; ++n) {
         const int start = re.GetGroupStart(n), end = re.GetGroupEnd(n);
         Check((start < 0) == (end < 0));
@@ -56,8 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         return 0;
     // The first byte splits the rest into pattern and text.
     const size_t patternSize = std::min<size_t>(data[0], size - 1);
-    const std::u16string pattern = Widen(data + 1, patternSize);
-    const std::u16string text = Widen(data + 1 + patternSize, size - 1 - patternSize);
+    const vu::String pattern = Widen(data + 1, patternSize);
+    const vu::String text = Widen(data + 1 + patternSize, size - 1 - patternSize);
 
     VU_CRegExpression re;
     re.SetStepLimit(20000);
@@ -67,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     const int index = re.RegFind(text.c_str());
     CheckMatch(re, text, index);
-    std::unique_ptr<char16_t[]> replaced(re.GetReplaceString(pattern.c_str()));
+    std::unique_ptr<WCHAR[]> replaced(re.GetReplaceString(pattern.c_str()));
     Check((index >= 0) == (replaced != nullptr));
 
     // Copies search alike and own their buffers.

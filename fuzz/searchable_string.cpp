@@ -15,15 +15,15 @@ namespace {
 
 // Small alphabet so that searches hit: letters in both cases, delimiters,
 // regular-expression specials and a few characters beyond ASCII.
-constexpr char16_t kAlphabet[] = u"aAbB zZ,.-_()*+?|[]^$\\&\u00E4\u00C4\u212Ak\u03C3\u03A3\u0000";
+constexpr WCHAR kAlphabet[] = VU_T("aAbB zZ,.-_()*+?|[]^$\\&\u00E4\u00C4\u212Ak\u03C3\u03A3\u0000");
 constexpr int kMaxText = 2000;
 constexpr unsigned long long kStepLimit = 200000;
 
-std::u16string TakeText(FuzzedDataProvider& in, int maxLength) {
+vu::String TakeText(FuzzedDataProvider& in, int maxLength) {
     const int length = in.ConsumeIntegralInRange<int>(0, maxLength);
-    std::u16string s;
+    vu::String s;
     for (int i = 0; i < length && in.remaining_bytes() > 0; ++i) {
-        const char16_t c = kAlphabet[in.ConsumeIntegralInRange<int>(0, std::size(kAlphabet) - 2)];
+        const WCHAR c = kAlphabet[in.ConsumeIntegralInRange<int>(0, std::size(kAlphabet) - 2)];
         if (c) // the texts are NUL-terminated
             s.push_back(c);
     }
@@ -46,7 +46,7 @@ public:
 class OneAtATime : public FuzzString {
 public:
     using FuzzString::FuzzString;
-    VU_CSearchableString& ReplaceAt(int index, int count, const char16_t* text) override {
+    VU_CSearchableString& ReplaceAt(int index, int count, const WCHAR* text) override {
         return VU_CSearchableString::ReplaceAt(index, count, text);
     }
 };
@@ -56,13 +56,13 @@ void Check(bool ok) {
         std::abort();
 }
 
-bool MatchesAt(const CString& s, int at, const std::u16string& find) {
+bool MatchesAt(const CString& s, int at, const vu::String& find) {
     return at >= 0 && at + static_cast<int>(find.size()) <= s.GetLength() &&
            s.View().substr(at, find.size()) == find;
 }
 
-void CompareReplaceAll(const CString& text, int kind, const std::u16string& find,
-                       const std::u16string& replacement) {
+void CompareReplaceAll(const CString& text, int kind, const vu::String& find,
+                       const vu::String& replacement) {
     FuzzString fast(text);
     OneAtATime slow(text);
     fast.LimitSteps();
@@ -94,9 +94,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     s.LimitSteps();
     for (int op = 0; op < 64 && in.remaining_bytes() > 0; ++op) {
         const int n = s.GetLength();
-        const std::u16string t = TakeText(in, 4);
-        const std::u16string u = TakeText(in, 4);
-        const char16_t ch = t.empty() ? u'a' : t[0];
+        const vu::String t = TakeText(in, 4);
+        const vu::String u = TakeText(in, 4);
+        const WCHAR ch = t.empty() ? VU_T('a') : t[0];
         const BOOL flag = in.ConsumeBool();
         const int i = TakeIndex(in, n);
         const int j = TakeIndex(in, n);

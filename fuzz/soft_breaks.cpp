@@ -15,20 +15,22 @@ using Soft = VU_CSearchableStringWithSoftLineBreaks;
 
 // Characters that matter here: breaks, blanks, delimiters, case pairs, and a
 // few that regular expressions treat specially.
-constexpr char16_t kAlphabet[] = {u'a', u'b', u'A', u' ', u' ',  u'\t', u'\r', u'\n', u'\r',
-                                  u'_', u',', u'(', u')', u'.',  u'*',  u'+',  u'?',  u'^',
-                                  u'$', u'[', u']', u'|', u'\\', 0xE9,  0x130, 0};
+constexpr WCHAR kAlphabet[] = {
+    VU_T('a'),  VU_T('b'),  VU_T('A'), VU_T(' '), VU_T(' '), VU_T('\t'), VU_T('\r'),
+    VU_T('\n'), VU_T('\r'), VU_T('_'), VU_T(','), VU_T('('), VU_T(')'),  VU_T('.'),
+    VU_T('*'),  VU_T('+'),  VU_T('?'), VU_T('^'), VU_T('$'), VU_T('['),  VU_T(']'),
+    VU_T('|'),  VU_T('\\'), 0xE9,      0x130,     0};
 
 constexpr int kMaxLength = 4096; // keeps one-replacement-at-a-time edits quick
 
-std::u16string Text(FuzzedDataProvider& in, std::size_t maxLength) {
-    std::u16string text;
+vu::String Text(FuzzedDataProvider& in, std::size_t maxLength) {
+    vu::String text;
     const std::size_t length = in.ConsumeIntegralInRange<std::size_t>(0, maxLength);
     for (std::size_t i = 0; i < length && in.remaining_bytes() > 0; ++i) {
-        const char16_t c =
+        const WCHAR c =
             kAlphabet[in.ConsumeIntegralInRange<std::size_t>(0, std::size(kAlphabet) - 1)];
         if (c == 0)
-            text += u"\r\r\n"; // a soft break typed into the text
+            text += VU_T("\r\r\n"); // a soft break typed into the text
         else
             text.push_back(c);
     }
@@ -46,7 +48,7 @@ void Require(bool condition) {
 
 // Right after wrapping the breaks are in: out and back in is an identity.
 void CheckRoundTrip(Soft& s) {
-    const std::u16string wrapped = s.Str();
+    const vu::String wrapped = s.Str();
     const int breaks = s.RemoveSoftLineBreaks();
     Require(s.WereSoftLineBreaksRemoved());
     Require(s.ReInsertSoftLineBreaks() == breaks);
@@ -54,8 +56,8 @@ void CheckRoundTrip(Soft& s) {
 }
 
 void Step(FuzzedDataProvider& in, Soft& s) {
-    const std::u16string a = Text(in, 4);
-    const std::u16string b = Text(in, 4);
+    const vu::String a = Text(in, 4);
+    const vu::String b = Text(in, 4);
     const BOOL flag = in.ConsumeBool();
     switch (in.ConsumeIntegralInRange(0, 26)) {
     case 0: {
@@ -83,28 +85,28 @@ void Step(FuzzedDataProvider& in, Soft& s) {
         s.Find(a.c_str(), Position(in, s), flag);
         break;
     case 7:
-        s.Find(a.empty() ? u'a' : a[0], Position(in, s), flag);
+        s.Find(a.empty() ? VU_T('a') : a[0], Position(in, s), flag);
         break;
     case 8:
         s.FindNoCase(a.c_str(), Position(in, s), flag);
         break;
     case 9:
-        s.FindNoCase(a.empty() ? u'A' : a[0], Position(in, s), flag);
+        s.FindNoCase(a.empty() ? VU_T('A') : a[0], Position(in, s), flag);
         break;
     case 10:
         s.ReverseFind(a.c_str(), Position(in, s), flag);
         break;
     case 11:
-        s.ReverseFind(a.empty() ? u'b' : a[0]);
+        s.ReverseFind(a.empty() ? VU_T('b') : a[0]);
         break;
     case 12:
         s.ReverseFindNoCase(a.c_str(), Position(in, s), flag);
         break;
     case 13:
-        s.ReverseFindNoCase(a.empty() ? u'B' : a[0], Position(in, s), flag);
+        s.ReverseFindNoCase(a.empty() ? VU_T('B') : a[0], Position(in, s), flag);
         break;
     case 14:
-        s.FindN(a.empty() ? u' ' : a[0], Position(in, s), Position(in, s), flag);
+        s.FindN(a.empty() ? VU_T(' ') : a[0], Position(in, s), Position(in, s), flag);
         break;
     case 15:
         s.FindRegularExp(a.c_str(), Position(in, s));
@@ -122,7 +124,7 @@ void Step(FuzzedDataProvider& in, Soft& s) {
         s.InsertAt(Position(in, s), a.c_str());
         break;
     case 20:
-        s.InsertAt(Position(in, s), a.empty() ? u'x' : a[0]);
+        s.InsertAt(Position(in, s), a.empty() ? VU_T('x') : a[0]);
         break;
     case 21:
         s.DeleteAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8));
@@ -132,7 +134,7 @@ void Step(FuzzedDataProvider& in, Soft& s) {
         break;
     case 23:
         s.GetField(a.c_str(), in.ConsumeIntegralInRange(-1, 5));
-        s.GetFieldCount(a.empty() ? u',' : a[0]);
+        s.GetFieldCount(a.empty() ? VU_T(',') : a[0]);
         break;
     case 24:
         s.GetDelimitedField(a.c_str(), b.c_str(), in.ConsumeIntegralInRange(-1, 3));

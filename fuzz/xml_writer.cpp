@@ -20,12 +20,12 @@ public:
     uint8_t Byte() { return m_pos < m_size ? m_data[m_pos++] : 0; }
     // Mostly characters that matter to names and escaping.
     AF_GString Text() {
-        static const char16_t alphabet[] = u"abZ_:1.- <>&'\"\n\u00e9\u4e2d";
+        static const WCHAR alphabet[] = VU_T("abZ_:1.- <>&'\"\n\u00e9\u4e2d");
         AF_GString s;
         for (int n = Byte() % 12; n > 0; --n) {
             const uint8_t b = Byte();
             s += b < 200 ? alphabet[b % (std::size(alphabet) - 1)]
-                         : static_cast<char16_t>(b << 8 | Byte());
+                         : static_cast<WCHAR>(b << 8 | Byte());
         }
         return s;
     }
@@ -41,21 +41,25 @@ void Check(bool ok) {
         abort();
 }
 
-bool ModelValidName(const std::u16string& name) {
+bool ModelValidName(const vu::String& name) {
     if (name.empty())
         return false;
     for (size_t i = 1; i < name.size(); ++i) {
-        const char16_t c = name[i];
-        if (!((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || c == u':'))
+        const WCHAR c = name[i];
+        if (!((c >= VU_T('a') && c <= VU_T('z')) || (c >= VU_T('A') && c <= VU_T('Z')) ||
+              c == VU_T('_') || c == VU_T(':')))
             return false;
     }
     return true;
 }
 
-std::u16string Unescape(std::u16string s) {
-    static const std::pair<std::u16string, char16_t> entities[] = {
-        {u"&lt;", u'<'}, {u"&gt;", u'>'}, {u"&apos;", u'\''}, {u"&quot;", u'"'}, {u"&amp;", u'&'}};
-    std::u16string out;
+vu::String Unescape(vu::String s) {
+    static const std::pair<vu::String, WCHAR> entities[] = {{VU_T("&lt;"), VU_T('<')},
+                                                            {VU_T("&gt;"), VU_T('>')},
+                                                            {VU_T("&apos;"), VU_T('\'')},
+                                                            {VU_T("&quot;"), VU_T('"')},
+                                                            {VU_T("&amp;"), VU_T('&')}};
+    vu::String out;
     for (size_t i = 0; i < s.size();) {
         bool matched = false;
         for (const auto& [entity, c] : entities) {
@@ -78,14 +82,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Input in(data, size);
     VU_CXmlWriter w;
     bool tagOpen = false;
-    std::set<std::u16string> attributes;
-    std::vector<std::u16string> open;
+    std::set<vu::String> attributes;
+    std::vector<vu::String> open;
     const auto closesTag = [&] {
         tagOpen = false;
         attributes.clear();
     };
     for (int steps = 0; steps < 200 && !in.Empty(); ++steps) {
-        const std::u16string before(w.GetOutput());
+        const vu::String before(w.GetOutput());
         const size_t closer = tagOpen ? 1 : 0; // the '>' that content adds first
         bool ok = true;
         switch (in.Byte() % 10) {
@@ -104,7 +108,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             const AF_GString name = in.Text(), value = in.Text();
             ok = w.WriteAttributeString(&name, &value);
             Check(ok == (ModelValidName(name) && !value.empty() &&
-                         value.find(u'<') == std::u16string::npos && !attributes.count(name)));
+                         value.find(VU_T('<')) == vu::String::npos && !attributes.count(name)));
             if (ok)
                 attributes.insert(name);
             break;
@@ -112,7 +116,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         case 2: {
             const AF_GString text = in.Text();
             w.WriteElementString(text);
-            Check(Unescape(std::u16string(w.GetOutput().substr(before.size() + closer))) == text);
+            Check(Unescape(vu::String(w.GetOutput().substr(before.size() + closer))) == text);
             closesTag();
             break;
         }
@@ -120,7 +124,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             ok = w.WriteEndElement();
             Check(ok == !open.empty());
             if (ok) {
-                Check(w.GetOutput().ends_with(u"</" + open.back() + u">"));
+                Check(w.GetOutput().ends_with(VU_T("</") + open.back() + VU_T(">")));
                 open.pop_back();
             }
             closesTag();
@@ -146,8 +150,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         default: {
             const AF_GString formatted = w.ToStringFormatted();
             size_t tagEnds = 0;
-            for (char16_t c : before)
-                tagEnds += c == u'>';
+            for (WCHAR c : before)
+                tagEnds += c == VU_T('>');
             Check(formatted.size() == before.size() + tagEnds);
             break;
         }

@@ -24,23 +24,23 @@ namespace {
 
 // Rough frequency of a unit in English text, used to pick the rarer of a
 // literal's characters as the second filter of the literal scan.
-int Commonness(char16_t c) {
+int Commonness(WCHAR c) {
     static const char kLetters[] = "etaoinshrdlcumwfgypbvkjxqz";
-    if (c == u' ')
+    if (c == VU_T(' '))
         return 100;
-    if (c >= u'a' && c <= u'z') {
+    if (c >= VU_T('a') && c <= VU_T('z')) {
         for (int i = 0; kLetters[i]; ++i)
             if (kLetters[i] == c)
                 return 90 - 3 * i;
     }
-    if (c == u',' || c == u'.' || c == u'\n' || c == u'\r')
+    if (c == VU_T(',') || c == VU_T('.') || c == VU_T('\n') || c == VU_T('\r'))
         return 30;
     if (c < 0x80)
         return 10;
     return 2;
 }
 
-bool MatchesAt(const char16_t* at, const char16_t* literal, size_t length) {
+bool MatchesAt(const WCHAR* at, const WCHAR* literal, size_t length) {
     // A NUL in the text mismatches every literal unit, so this never reads
     // past the end of the string.
     for (size_t i = 0; i < length; ++i)
@@ -49,29 +49,28 @@ bool MatchesAt(const char16_t* at, const char16_t* literal, size_t length) {
     return true;
 }
 
-size_t LengthScalar(const char16_t* s) {
-    const char16_t* p = s;
+size_t LengthScalar(const WCHAR* s) {
+    const WCHAR* p = s;
     while (*p)
         ++p;
     return size_t(p - s);
 }
 
-const char16_t* FindUnitScalar(const char16_t* s, char16_t c) {
+const WCHAR* FindUnitScalar(const WCHAR* s, WCHAR c) {
     for (; *s; ++s)
         if (*s == c)
             return s;
     return nullptr;
 }
 
-const char16_t* FindLiteralScalar(const char16_t* s, const char16_t* literal, size_t length) {
+const WCHAR* FindLiteralScalar(const WCHAR* s, const WCHAR* literal, size_t length) {
     for (; *s; ++s)
         if (*s == literal[0] && MatchesAt(s, literal, length))
             return s;
     return nullptr;
 }
 
-const char16_t* FindInRangesScalar(const char16_t* s, const char16_t* lo, const char16_t* hi,
-                                   int count) {
+const WCHAR* FindInRangesScalar(const WCHAR* s, const WCHAR* lo, const WCHAR* hi, int count) {
     for (; *s; ++s)
         for (int i = 0; i < count; ++i)
             if (*s >= lo[i] && *s <= hi[i])
@@ -79,8 +78,8 @@ const char16_t* FindInRangesScalar(const char16_t* s, const char16_t* lo, const 
     return nullptr;
 }
 
-size_t RunOfScalar(const char16_t* s, char16_t c) {
-    const char16_t* p = s;
+size_t RunOfScalar(const WCHAR* s, WCHAR c) {
+    const WCHAR* p = s;
     while (*p == c)
         ++p;
     return size_t(p - s);
@@ -88,7 +87,7 @@ size_t RunOfScalar(const char16_t* s, char16_t c) {
 
 #if VU_REGEXP_SSE2
 
-inline bool IsUnitAligned(const char16_t* s) {
+inline bool IsUnitAligned(const WCHAR* s) {
     return (reinterpret_cast<uintptr_t>(s) & 1) == 0;
 }
 
@@ -109,7 +108,7 @@ inline bool Any(__m128i h0, __m128i h1, __m128i h2, __m128i h3) {
 // Walks the aligned 64-byte regions from the one holding `s`; a region never
 // straddles a page. `hits(vector)` marks the interesting units; those before
 // `s` are dropped. Returns the first interesting unit.
-template <class HitFn> VU_NO_ASAN const char16_t* FirstInRegions(const char16_t* s, HitFn hits) {
+template <class HitFn> VU_NO_ASAN const WCHAR* FirstInRegions(const WCHAR* s, HitFn hits) {
     const uintptr_t addr = reinterpret_cast<uintptr_t>(s);
     uintptr_t region = addr & ~uintptr_t(63);
     uint64_t startMask = ~uint64_t(0) << (addr - region);
@@ -121,7 +120,7 @@ template <class HitFn> VU_NO_ASAN const char16_t* FirstInRegions(const char16_t*
             continue;
         const uint64_t m = Mask64(h0, h1, h2, h3) & startMask;
         if (m)
-            return reinterpret_cast<const char16_t*>(region + uint64_t(__builtin_ctzll(m)));
+            return reinterpret_cast<const WCHAR*>(region + uint64_t(__builtin_ctzll(m)));
     }
 }
 
@@ -129,11 +128,11 @@ template <class HitFn> VU_NO_ASAN const char16_t* FirstInRegions(const char16_t*
 
 } // namespace
 
-size_t VU_CRegExpScan::Length(const char16_t* s) {
+size_t VU_CRegExpScan::Length(const WCHAR* s) {
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s)) {
         const __m128i zero = _mm_setzero_si128();
-        const char16_t* end =
+        const WCHAR* end =
             FirstInRegions(s, [zero](__m128i v) { return _mm_cmpeq_epi16(v, zero); });
         return size_t(end - s);
     }
@@ -141,12 +140,12 @@ size_t VU_CRegExpScan::Length(const char16_t* s) {
     return LengthScalar(s);
 }
 
-const char16_t* VU_CRegExpScan::FindUnit(const char16_t* s, char16_t c) {
+const WCHAR* VU_CRegExpScan::FindUnit(const WCHAR* s, WCHAR c) {
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s)) {
         const __m128i zero = _mm_setzero_si128();
         const __m128i wanted = _mm_set1_epi16(short(c));
-        const char16_t* p = FirstInRegions(s, [zero, wanted](__m128i v) {
+        const WCHAR* p = FirstInRegions(s, [zero, wanted](__m128i v) {
             return _mm_or_si128(_mm_cmpeq_epi16(v, wanted), _mm_cmpeq_epi16(v, zero));
         });
         return *p ? p : nullptr;
@@ -155,8 +154,8 @@ const char16_t* VU_CRegExpScan::FindUnit(const char16_t* s, char16_t c) {
     return FindUnitScalar(s, c);
 }
 
-VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const char16_t* literal,
-                                                       size_t length) {
+VU_NO_ASAN const WCHAR* VU_CRegExpScan::FindLiteral(const WCHAR* s, const WCHAR* literal,
+                                                    size_t length) {
     if (length == 1)
         return FindUnit(s, literal[0]);
 #if VU_REGEXP_SSE2
@@ -179,7 +178,7 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
             // The region holding s: look for the first unit, and for the
             // other one ahead of it once the region is known to hold no NUL.
             const __m128i* p = reinterpret_cast<const __m128i*>(region);
-            const char16_t* units = reinterpret_cast<const char16_t*>(region);
+            const WCHAR* units = reinterpret_cast<const WCHAR*>(region);
             const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
             const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
             const uint64_t nul = Mask64(_mm_cmpeq_epi16(a0, zero), _mm_cmpeq_epi16(a1, zero),
@@ -187,8 +186,8 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
                                  startMask;
             if (nul) {
                 // The string ends here: finish unit by unit.
-                const char16_t* end = units + __builtin_ctzll(nul) / 2;
-                for (const char16_t* q = s; q < end; ++q)
+                const WCHAR* end = units + __builtin_ctzll(nul) / 2;
+                for (const WCHAR* q = s; q < end; ++q)
                     if (*q == literal[0] && MatchesAt(q, literal, length))
                         return q;
                 return nullptr;
@@ -204,7 +203,7 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
                                               _mm_cmpeq_epi16(_mm_loadu_si128(w + 3), other))) &
                          startMask;
             for (; m; m &= m - 1, m &= m - 1) {
-                const char16_t* q = units + __builtin_ctzll(m) / 2;
+                const WCHAR* q = units + __builtin_ctzll(m) / 2;
                 if (MatchesAt(q, literal, length))
                     return q;
             }
@@ -233,9 +232,9 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
 
         // Examines one region exactly (no NUL before it): true when the
         // search is over, with the match or null in `found`.
-        auto examine = [&](uintptr_t at, const char16_t*& found) VU_NO_ASAN {
+        auto examine = [&](uintptr_t at, const WCHAR*& found) VU_NO_ASAN {
             const __m128i* p = reinterpret_cast<const __m128i*>(at);
-            const char16_t* units = reinterpret_cast<const char16_t*>(at);
+            const WCHAR* units = reinterpret_cast<const WCHAR*>(at);
             const __m128i a0 = _mm_load_si128(p), a1 = _mm_load_si128(p + 1);
             const __m128i a2 = _mm_load_si128(p + 2), a3 = _mm_load_si128(p + 3);
             const __m128i r0 = _mm_cmpeq_epi16(a0, rareUnit), r1 = _mm_cmpeq_epi16(a1, rareUnit);
@@ -255,7 +254,7 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
             }
             for (; m; m &= m - 1, m &= m - 1) {
                 // Candidates come in the order of their start.
-                const char16_t* hit = units + __builtin_ctzll(m) / 2;
+                const WCHAR* hit = units + __builtin_ctzll(m) / 2;
                 if (size_t(hit - s) < rare)
                     continue; // the literal would start before s
                 if (MatchesAt(hit - rare, literal, length)) {
@@ -268,7 +267,7 @@ VU_NO_ASAN const char16_t* VU_CRegExpScan::FindLiteral(const char16_t* s, const 
         };
         auto mayHoldNul = [one](__m128i low) { return Mask(_mm_cmplt_epi16(low, one)) != 0; };
 
-        const char16_t* found = nullptr;
+        const WCHAR* found = nullptr;
         for (region += 64;;) {
             const uintptr_t pageEnd = (region & ~uintptr_t(4095)) + 4096;
             uintptr_t unchecked = region; // first region not known to be NUL-free
@@ -306,14 +305,14 @@ namespace {
 // to at most hi - lo, which a saturating subtraction of (hi - lo) turns into
 // a test for zero.
 template <int N, bool Units>
-const char16_t* FindInRangesOf(const char16_t* s, const char16_t* lo, const char16_t* hi) {
+const WCHAR* FindInRangesOf(const WCHAR* s, const WCHAR* lo, const WCHAR* hi) {
     __m128i los[N], spans[N];
     for (int i = 0; i < N; ++i) {
         los[i] = _mm_set1_epi16(short(lo[i]));
-        spans[i] = _mm_set1_epi16(short(char16_t(hi[i] - lo[i])));
+        spans[i] = _mm_set1_epi16(short(WCHAR(hi[i] - lo[i])));
     }
     const __m128i zero = _mm_setzero_si128();
-    const char16_t* p = FirstInRegions(s, [&](__m128i v) {
+    const WCHAR* p = FirstInRegions(s, [&](__m128i v) {
         __m128i hit = _mm_cmpeq_epi16(v, zero);
         for (int i = 0; i < N; ++i) {
             if constexpr (Units)
@@ -327,7 +326,7 @@ const char16_t* FindInRangesOf(const char16_t* s, const char16_t* lo, const char
     return *p ? p : nullptr;
 }
 
-using RangeScan = const char16_t* (*)(const char16_t*, const char16_t*, const char16_t*);
+using RangeScan = const WCHAR* (*)(const WCHAR*, const WCHAR*, const WCHAR*);
 
 template <bool Units, int... N>
 constexpr std::array<RangeScan, sizeof...(N)> RangeScans(std::integer_sequence<int, N...>) {
@@ -337,8 +336,8 @@ constexpr std::array<RangeScan, sizeof...(N)> RangeScans(std::integer_sequence<i
 } // namespace
 #endif
 
-const char16_t* VU_CRegExpScan::FindInRanges(const char16_t* s, const char16_t* lo,
-                                             const char16_t* hi, int count) {
+const WCHAR* VU_CRegExpScan::FindInRanges(const WCHAR* s, const WCHAR* lo, const WCHAR* hi,
+                                          int count) {
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s) && count > 0 && count <= kMaxRanges) {
         static constexpr auto kUnitScans =
@@ -354,11 +353,11 @@ const char16_t* VU_CRegExpScan::FindInRanges(const char16_t* s, const char16_t* 
     return FindInRangesScalar(s, lo, hi, count);
 }
 
-size_t VU_CRegExpScan::RunOf(const char16_t* s, char16_t c) {
+size_t VU_CRegExpScan::RunOf(const WCHAR* s, WCHAR c) {
 #if VU_REGEXP_SSE2
     if (IsUnitAligned(s)) {
         const __m128i wanted = _mm_set1_epi16(short(c));
-        const char16_t* end = FirstInRegions(s, [wanted](__m128i v) {
+        const WCHAR* end = FirstInRegions(s, [wanted](__m128i v) {
             return _mm_xor_si128(_mm_cmpeq_epi16(v, wanted), _mm_set1_epi32(-1));
         });
         return size_t(end - s);

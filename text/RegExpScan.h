@@ -9,21 +9,21 @@
 // Every function stops at the terminating NUL and never reports a position
 // past it.
 
+#include "framework/Char.h"
 #include <cstddef>
 
 class VU_CRegExpScan {
 public:
     // Length of `s` in units (like wcslen).
-    static size_t Length(const char16_t* s);
+    static size_t Length(const WCHAR* s);
     // First occurrence of `c` (not NUL) in `s`, or null.
-    static const char16_t* FindUnit(const char16_t* s, char16_t c);
+    static const WCHAR* FindUnit(const WCHAR* s, WCHAR c);
     // First occurrence of `literal` (`length` >= 1 units, no NUL) in `s`, or null.
-    static const char16_t* FindLiteral(const char16_t* s, const char16_t* literal, size_t length);
+    static const WCHAR* FindLiteral(const WCHAR* s, const WCHAR* literal, size_t length);
     // First position in `s` whose unit lies in one of the `count` inclusive
     // ranges lo[i]..hi[i] (NUL excluded), or null. count <= kMaxRanges.
     static constexpr int kMaxRanges = 8;
-    static const char16_t* FindInRanges(const char16_t* s, const char16_t* lo, const char16_t* hi,
-                                        int count);
+    static const WCHAR* FindInRanges(const WCHAR* s, const WCHAR* lo, const WCHAR* hi, int count);
     // Number of leading units of `s` equal to `c` (not NUL).
-    static size_t RunOf(const char16_t* s, char16_t c);
+    static size_t RunOf(const WCHAR* s, WCHAR c);
 };

@@ -10,20 +10,20 @@
 namespace {
 
 // Characters with a meaning of their own; a literal run stops at any of them.
-constexpr char16_t kMeta[] = u"^$.[()|?+*\\";
+constexpr WCHAR kMeta[] = VU_T("^$.[()|?+*\\");
 
-bool IsMeta(char16_t c) {
-    for (const char16_t* m = kMeta; *m; ++m)
+bool IsMeta(WCHAR c) {
+    for (const WCHAR* m = kMeta; *m; ++m)
         if (*m == c)
             return true;
     return false;
 }
 
-bool IsRepeat(char16_t c) {
-    return c == u'*' || c == u'+' || c == u'?';
+bool IsRepeat(WCHAR c) {
+    return c == VU_T('*') || c == VU_T('+') || c == VU_T('?');
 }
 
-size_t OperandLength(const char16_t* operand) {
+size_t OperandLength(const WCHAR* operand) {
     size_t n = 0;
     while (operand[n])
         ++n;
@@ -117,8 +117,8 @@ void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
     m_required = m_firstLiteral = nullptr;
     if (other.m_program) {
         // A copy owns its own program; the hints are rebased onto it.
-        m_program = new char16_t[other.m_programSize];
-        std::memcpy(m_program, other.m_program, other.m_programSize * sizeof(char16_t));
+        m_program = new WCHAR[other.m_programSize];
+        std::memcpy(m_program, other.m_program, other.m_programSize * sizeof(WCHAR));
         if (other.m_required)
             m_required = m_program + (other.m_required - other.m_program);
         if (other.m_firstLiteral)
@@ -128,7 +128,7 @@ void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
 
 // ---- Compilation -------------------------------------------------------
 
-VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
+VU_CRegExpression* VU_CRegExpression::RegComp(const WCHAR* pattern) {
     if (!pattern)
         return nullptr;
     m_compiled = 1;
@@ -148,12 +148,12 @@ VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
 
     // Emitting pass into a buffer of the exact size. The old program is
     // kept until the new one is complete.
-    char16_t* program = new (std::nothrow) char16_t[m_programSize]();
+    WCHAR* program = new (std::nothrow) WCHAR[m_programSize]();
     if (!program) {
         m_programSize = previousSize;
         return nullptr;
     }
-    char16_t* old = m_program;
+    WCHAR* old = m_program;
     m_program = program;
     m_groupCount = 1;
     m_emitting = 1;
@@ -177,19 +177,19 @@ VU_CRegExpression* VU_CRegExpression::RegComp(const char16_t* pattern) {
 
 // ParseExpression: a whole expression (paren false) or a group body; alternatives are
 // chained OpAlternative nodes whose contents all end in the closing node.
-char16_t* VU_CRegExpression::ParseExpression(bool paren, int& flags) {
+WCHAR* VU_CRegExpression::ParseExpression(bool paren, int& flags) {
     flags = HasWidth; // until a branch proves otherwise
     int groupNumber = 0;
-    char16_t* ret = nullptr;
+    WCHAR* ret = nullptr;
     if (paren) {
         if (m_groupCount >= kGroupCount)
             return nullptr;
         groupNumber = m_groupCount++;
-        ret = EmitNode(char16_t(OpGroupOpen + groupNumber));
+        ret = EmitNode(WCHAR(OpGroupOpen + groupNumber));
     }
 
     int branchFlags = 0;
-    char16_t* branch = ParseBranch(branchFlags);
+    WCHAR* branch = ParseBranch(branchFlags);
     if (!branch)
         return nullptr;
     if (ret)
@@ -199,8 +199,8 @@ char16_t* VU_CRegExpression::ParseExpression(bool paren, int& flags) {
     if (!(branchFlags & HasWidth))
         flags &= ~HasWidth;
     flags |= branchFlags & StartsWithRepeat;
-    char16_t* last = branch; // the chain's last alternative, linked in O(1)
-    while (*m_parse == u'|') {
+    WCHAR* last = branch; // the chain's last alternative, linked in O(1)
+    while (*m_parse == VU_T('|')) {
         ++m_parse;
         branch = ParseBranch(branchFlags);
         if (!branch)
@@ -212,13 +212,13 @@ char16_t* VU_CRegExpression::ParseExpression(bool paren, int& flags) {
         flags |= branchFlags & StartsWithRepeat;
     }
 
-    char16_t* ender = EmitNode(paren ? char16_t(OpGroupClose + groupNumber) : char16_t(OpEnd));
+    WCHAR* ender = EmitNode(paren ? WCHAR(OpGroupClose + groupNumber) : WCHAR(OpEnd));
     LinkTail(ret, ender);
-    for (char16_t* p = ret; p; p = NextNode(p))
+    for (WCHAR* p = ret; p; p = NextNode(p))
         LinkOperandTail(p, ender);
 
     if (paren) {
-        if (*m_parse != u')')
+        if (*m_parse != VU_T(')'))
             return nullptr;
         ++m_parse;
     } else if (*m_parse != 0) {
@@ -228,13 +228,13 @@ char16_t* VU_CRegExpression::ParseExpression(bool paren, int& flags) {
 }
 
 // ParseBranch: one alternative, a sequence of pieces.
-char16_t* VU_CRegExpression::ParseBranch(int& flags) {
+WCHAR* VU_CRegExpression::ParseBranch(int& flags) {
     flags = 0;
-    char16_t* ret = EmitNode(OpAlternative);
-    char16_t* chain = nullptr;
-    while (*m_parse && *m_parse != u'|' && *m_parse != u')') {
+    WCHAR* ret = EmitNode(OpAlternative);
+    WCHAR* chain = nullptr;
+    while (*m_parse && *m_parse != VU_T('|') && *m_parse != VU_T(')')) {
         int pieceFlags = 0;
-        char16_t* latest = ParsePiece(pieceFlags);
+        WCHAR* latest = ParsePiece(pieceFlags);
         if (!latest)
             return nullptr;
         flags |= pieceFlags & HasWidth;
@@ -250,34 +250,36 @@ char16_t* VU_CRegExpression::ParseBranch(int& flags) {
 }
 
 // ParsePiece: an atom with an optional *, + or ?.
-char16_t* VU_CRegExpression::ParsePiece(int& flags) {
+WCHAR* VU_CRegExpression::ParsePiece(int& flags) {
     int atomFlags = 0;
-    char16_t* ret = ParseAtom(atomFlags);
+    WCHAR* ret = ParseAtom(atomFlags);
     if (!ret)
         return nullptr;
-    const char16_t op = *m_parse;
+    const WCHAR op = *m_parse;
     if (!IsRepeat(op)) {
         flags = atomFlags;
         return ret;
     }
-    if (!(atomFlags & HasWidth) && op != u'?')
+    if (!(atomFlags & HasWidth) && op != VU_T('?'))
         return nullptr; // the repeated item could match empty
-    flags = op == u'*' ? StartsWithRepeat : op == u'+' ? (HasWidth | StartsWithRepeat) : 0;
+    flags = op == VU_T('*')   ? StartsWithRepeat
+            : op == VU_T('+') ? (HasWidth | StartsWithRepeat)
+                              : 0;
 
-    if (op == u'*' && (atomFlags & Simple)) {
+    if (op == VU_T('*') && (atomFlags & Simple)) {
         InsertNode(OpStar, ret);
-    } else if (op == u'*') {
+    } else if (op == VU_T('*')) {
         // x* as (x<loop>|<empty>)
         InsertNode(OpAlternative, ret);
         LinkOperandTail(ret, EmitNode(OpLoopBack));
         LinkOperandTail(ret, ret);
         LinkTail(ret, EmitNode(OpAlternative));
         LinkTail(ret, EmitNode(OpEmpty));
-    } else if (op == u'+' && (atomFlags & Simple)) {
+    } else if (op == VU_T('+') && (atomFlags & Simple)) {
         InsertNode(OpPlus, ret);
-    } else if (op == u'+') {
+    } else if (op == VU_T('+')) {
         // x+ as x(<loop>|<empty>)
-        char16_t* next = EmitNode(OpAlternative);
+        WCHAR* next = EmitNode(OpAlternative);
         LinkTail(ret, next);
         LinkTail(EmitNode(OpLoopBack), ret);
         LinkTail(next, EmitNode(OpAlternative));
@@ -286,7 +288,7 @@ char16_t* VU_CRegExpression::ParsePiece(int& flags) {
         // x? as (x|<empty>)
         InsertNode(OpAlternative, ret);
         LinkTail(ret, EmitNode(OpAlternative));
-        char16_t* next = EmitNode(OpEmpty);
+        WCHAR* next = EmitNode(OpEmpty);
         LinkTail(ret, next);
         LinkOperandTail(ret, next);
     }
@@ -297,38 +299,38 @@ char16_t* VU_CRegExpression::ParsePiece(int& flags) {
 }
 
 // ParseAtom: the smallest unit of a pattern.
-char16_t* VU_CRegExpression::ParseAtom(int& flags) {
+WCHAR* VU_CRegExpression::ParseAtom(int& flags) {
     flags = 0;
-    char16_t* ret = nullptr;
+    WCHAR* ret = nullptr;
     switch (*m_parse++) {
-    case u'^':
+    case VU_T('^'):
         ret = EmitNode(OpAtStart);
         break;
-    case u'$':
+    case VU_T('$'):
         ret = EmitNode(OpAtEnd);
         break;
-    case u'.':
+    case VU_T('.'):
         ret = EmitNode(OpAnyChar);
         flags |= HasWidth | Simple;
         break;
-    case u'[':
+    case VU_T('['):
         ret = ParseSet();
         flags |= HasWidth | Simple;
         break;
-    case u'(': {
+    case VU_T('('): {
         int groupFlags = 0;
         ret = ParseExpression(true, groupFlags);
         flags |= groupFlags & (HasWidth | StartsWithRepeat);
         break;
     }
     case 0:
-    case u'|':
-    case u')':
-    case u'?':
-    case u'+':
-    case u'*':
+    case VU_T('|'):
+    case VU_T(')'):
+    case VU_T('?'):
+    case VU_T('+'):
+    case VU_T('*'):
         return nullptr; // nothing to repeat, or nothing at all
-    case u'\\':
+    case VU_T('\\'):
         if (*m_parse == 0)
             return nullptr;
         ret = EmitNode(OpLiteral);
@@ -359,24 +361,24 @@ char16_t* VU_CRegExpression::ParseAtom(int& flags) {
 
 // ParseSet: the members of [...] (m_parse is past the '['), expanded one unit
 // each.
-char16_t* VU_CRegExpression::ParseSet() {
-    char16_t* ret;
-    if (*m_parse == u'^') {
+WCHAR* VU_CRegExpression::ParseSet() {
+    WCHAR* ret;
+    if (*m_parse == VU_T('^')) {
         ret = EmitNode(OpNotInSet);
         ++m_parse;
     } else {
         ret = EmitNode(OpInSet);
     }
-    if (*m_parse == u']' || *m_parse == u'-')
+    if (*m_parse == VU_T(']') || *m_parse == VU_T('-'))
         EmitUnit(*m_parse++);
-    while (*m_parse && *m_parse != u']') {
-        if (*m_parse != u'-') {
+    while (*m_parse && *m_parse != VU_T(']')) {
+        if (*m_parse != VU_T('-')) {
             EmitUnit(*m_parse++);
             continue;
         }
         ++m_parse;
-        if (*m_parse == u']' || *m_parse == 0) {
-            EmitUnit(u'-');
+        if (*m_parse == VU_T(']') || *m_parse == 0) {
+            EmitUnit(VU_T('-'));
             continue;
         }
         // The lower end, the unit before '-', is already in the list.
@@ -388,29 +390,29 @@ char16_t* VU_CRegExpression::ParseSet() {
             m_programSize += upper + 1 - lower;
         else
             for (uint32_t c = lower; c <= upper; ++c)
-                EmitUnit(char16_t(c));
+                EmitUnit(WCHAR(c));
         ++m_parse;
     }
     EmitUnit(0);
-    if (*m_parse != u']')
+    if (*m_parse != VU_T(']'))
         return nullptr;
     ++m_parse;
     return ret;
 }
 
-char16_t* VU_CRegExpression::EmitNode(char16_t op) {
+WCHAR* VU_CRegExpression::EmitNode(WCHAR op) {
     if (!m_emitting) {
         m_programSize += kNodeUnits;
         return m_dummy;
     }
-    char16_t* p = m_emit;
+    WCHAR* p = m_emit;
     p[0] = op;
     p[1] = p[2] = 0;
     m_emit += kNodeUnits;
     return p;
 }
 
-void VU_CRegExpression::EmitUnit(char16_t ch) {
+void VU_CRegExpression::EmitUnit(WCHAR ch) {
     if (!m_emitting) {
         ++m_programSize;
         return;
@@ -418,44 +420,44 @@ void VU_CRegExpression::EmitUnit(char16_t ch) {
     *m_emit++ = ch;
 }
 
-void VU_CRegExpression::InsertNode(char16_t op, char16_t* operand) {
+void VU_CRegExpression::InsertNode(WCHAR op, WCHAR* operand) {
     if (!m_emitting) {
         m_programSize += kNodeUnits;
         return;
     }
-    std::memmove(operand + kNodeUnits, operand, size_t(m_emit - operand) * sizeof(char16_t));
+    std::memmove(operand + kNodeUnits, operand, size_t(m_emit - operand) * sizeof(WCHAR));
     m_emit += kNodeUnits;
     operand[0] = op;
     operand[1] = operand[2] = 0;
 }
 
-void VU_CRegExpression::LinkTail(char16_t* p, const char16_t* target) {
+void VU_CRegExpression::LinkTail(WCHAR* p, const WCHAR* target) {
     if (!m_emitting)
         return;
-    char16_t* scan = p;
-    for (char16_t* next; (next = NextNode(scan)) != nullptr;)
+    WCHAR* scan = p;
+    for (WCHAR* next; (next = NextNode(scan)) != nullptr;)
         scan = next;
     const uint32_t offset =
         OpOf(scan) == OpLoopBack ? uint32_t(scan - target) : uint32_t(target - scan);
-    scan[1] = char16_t(offset & 0xFFFF);
-    scan[2] = char16_t(offset >> 16);
+    scan[1] = WCHAR(offset & 0xFFFF);
+    scan[2] = WCHAR(offset >> 16);
 }
 
-void VU_CRegExpression::LinkOperandTail(char16_t* p, const char16_t* target) {
+void VU_CRegExpression::LinkOperandTail(WCHAR* p, const WCHAR* target) {
     if (!m_emitting || !p || OpOf(p) != OpAlternative)
         return;
     LinkTail(OperandOf(p), target);
 }
 
-const char16_t* VU_CRegExpression::NextNode(const char16_t* p) {
+const WCHAR* VU_CRegExpression::NextNode(const WCHAR* p) {
     const uint32_t link = ReadLink(p);
     if (link == 0)
         return nullptr;
     return OpOf(p) == OpLoopBack ? p - link : p + link;
 }
 
-char16_t* VU_CRegExpression::NextNode(char16_t* p) {
-    return const_cast<char16_t*>(NextNode(static_cast<const char16_t*>(p)));
+WCHAR* VU_CRegExpression::NextNode(WCHAR* p) {
+    return const_cast<WCHAR*>(NextNode(static_cast<const WCHAR*>(p)));
 }
 
 // ---- Compile-time analysis ---------------------------------------------
@@ -469,8 +471,8 @@ void VU_CRegExpression::ComputeHints(int flags) {
     m_firstLiteralLength = 0;
     m_leadingRepeat = false;
 
-    const char16_t* scan = m_program; // the first top-level alternative
-    const char16_t* next = NextNode(scan);
+    const WCHAR* scan = m_program; // the first top-level alternative
+    const WCHAR* next = NextNode(scan);
     if (!next || OpOf(next) != OpEnd)
         return; // several top-level alternatives
     scan = OperandOf(scan);
@@ -485,7 +487,7 @@ void VU_CRegExpression::ComputeHints(int flags) {
 
     if (flags & StartsWithRepeat) {
         // The longest literal of the top-level chain; a later one wins a tie.
-        const char16_t* longest = nullptr;
+        const WCHAR* longest = nullptr;
         size_t length = 0;
         for (; scan; scan = NextNode(scan)) {
             if (OpOf(scan) != OpLiteral)
@@ -505,8 +507,8 @@ namespace {
 
 // The runs of set bits in a 65536-bit map as inclusive ranges (unit 0, the
 // terminator, is never a member).
-void RangesFromBits(const std::vector<uint64_t>& bits, std::vector<char16_t>& lo,
-                    std::vector<char16_t>& hi) {
+void RangesFromBits(const std::vector<uint64_t>& bits, std::vector<WCHAR>& lo,
+                    std::vector<WCHAR>& hi) {
     lo.clear();
     hi.clear();
     bool open = false;
@@ -518,22 +520,21 @@ void RangesFromBits(const std::vector<uint64_t>& bits, std::vector<char16_t>& lo
             const uint32_t c = word * 64 + bit;
             const bool member = c != 0 && ((w >> bit) & 1);
             if (member && !open) {
-                lo.push_back(char16_t(c));
+                lo.push_back(WCHAR(c));
                 open = true;
             } else if (!member && open) {
-                hi.push_back(char16_t(c - 1));
+                hi.push_back(WCHAR(c - 1));
                 open = false;
             }
         }
     }
     if (open)
-        hi.push_back(char16_t(0xFFFF));
+        hi.push_back(WCHAR(0xFFFF));
 }
 
 // Sorted, merged inclusive ranges of the given units: a sort for small
 // lists, a 65536-bit map for large ones.
-void MakeRanges(const char16_t* units, size_t n, std::vector<char16_t>& lo,
-                std::vector<char16_t>& hi) {
+void MakeRanges(const WCHAR* units, size_t n, std::vector<WCHAR>& lo, std::vector<WCHAR>& hi) {
     if (n > 4096) {
         std::vector<uint64_t> bits(65536 / 64, 0);
         for (size_t i = 0; i < n; ++i)
@@ -541,11 +542,11 @@ void MakeRanges(const char16_t* units, size_t n, std::vector<char16_t>& lo,
         RangesFromBits(bits, lo, hi);
         return;
     }
-    std::vector<char16_t> sorted(units, units + n);
+    std::vector<WCHAR> sorted(units, units + n);
     std::sort(sorted.begin(), sorted.end());
     lo.clear();
     hi.clear();
-    for (char16_t c : sorted) {
+    for (WCHAR c : sorted) {
         if (c == 0)
             continue;
         if (!hi.empty() && uint32_t(c) <= uint32_t(hi.back()) + 1) {
@@ -558,8 +559,7 @@ void MakeRanges(const char16_t* units, size_t n, std::vector<char16_t>& lo,
 }
 
 // The Latin-1 part of a set of ranges as a bitmap.
-void FillLatin1(const std::vector<char16_t>& lo, const std::vector<char16_t>& hi,
-                uint64_t bitmap[4]) {
+void FillLatin1(const std::vector<WCHAR>& lo, const std::vector<WCHAR>& hi, uint64_t bitmap[4]) {
     std::fill(bitmap, bitmap + 4, 0);
     for (size_t i = 0; i < lo.size() && lo[i] < 256; ++i)
         for (uint32_t c = lo[i]; c <= hi[i] && c < 256; ++c)
@@ -568,7 +568,7 @@ void FillLatin1(const std::vector<char16_t>& lo, const std::vector<char16_t>& hi
 
 } // namespace
 
-bool VU_CRegExpression::CharRanges::ContainsAbove255(char16_t c) const {
+bool VU_CRegExpression::CharRanges::ContainsAbove255(WCHAR c) const {
     auto it = std::upper_bound(lo.begin(), lo.end(), c);
     if (it == lo.begin())
         return false;
@@ -580,8 +580,8 @@ bool VU_CRegExpression::CharRanges::ContainsAbove255(char16_t c) const {
 void VU_CRegExpression::BuildSetInfo() {
     m_sets.clear();
     for (uint64_t at = 0; at < m_programSize;) {
-        const char16_t op = m_program[at];
-        const char16_t* operand = m_program + at + kNodeUnits;
+        const WCHAR op = m_program[at];
+        const WCHAR* operand = m_program + at + kNodeUnits;
         at += kNodeUnits;
         if (op != OpInSet && op != OpNotInSet && op != OpLiteral)
             continue;
@@ -597,33 +597,33 @@ void VU_CRegExpression::BuildSetInfo() {
     }
 }
 
-const VU_CRegExpression::SetInfo* VU_CRegExpression::FindSetInfo(const char16_t* node) const {
+const VU_CRegExpression::SetInfo* VU_CRegExpression::FindSetInfo(const WCHAR* node) const {
     const uint32_t offset = uint32_t(node - m_program);
     auto it = std::lower_bound(m_sets.begin(), m_sets.end(), offset,
                                [](const SetInfo& s, uint32_t o) { return s.node < o; });
     return it != m_sets.end() && it->node == offset ? &*it : nullptr;
 }
 
-bool VU_CRegExpression::InSet(const char16_t* node, char16_t c) const {
+bool VU_CRegExpression::InSet(const WCHAR* node, WCHAR c) const {
     const SetInfo* info = FindSetInfo(node);
     return info && info->members.Contains(c);
 }
 
 // Collects into `units` every character a match can begin with at `node`.
 // Returns false when that cannot be bounded (any character, an empty match).
-bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char16_t>& units,
+bool VU_CRegExpression::CollectStartChars(const WCHAR* node, std::vector<WCHAR>& units,
                                           std::vector<uint8_t>& visited, int depth) const {
     if (depth > 64)
         return false;
-    auto addUnit = [&units](char16_t c) { units.push_back(c); };
-    auto addRepeated = [&](const char16_t* item) {
+    auto addUnit = [&units](WCHAR c) { units.push_back(c); };
+    auto addRepeated = [&](const WCHAR* item) {
         if (OpOf(item) == OpLiteral) {
             addUnit(*OperandOf(item));
             return true;
         }
         if (OpOf(item) != OpInSet)
             return false;
-        for (const char16_t* m = OperandOf(item); *m; ++m)
+        for (const WCHAR* m = OperandOf(item); *m; ++m)
             addUnit(*m);
         return true;
     };
@@ -634,7 +634,7 @@ bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char
         if (seen)
             return true; // already accounted for
         seen = 1;
-        const char16_t op = OpOf(node);
+        const WCHAR op = OpOf(node);
         switch (op) {
         case OpEnd:
         case OpAtEnd:
@@ -652,13 +652,12 @@ bool VU_CRegExpression::CollectStartChars(const char16_t* node, std::vector<char
         case OpPlus:
             return addRepeated(OperandOf(node));
         case OpAlternative: {
-            const char16_t* next = NextNode(node);
+            const WCHAR* next = NextNode(node);
             if (!next || OpOf(next) != OpAlternative) {
                 node = OperandOf(node);
                 continue;
             }
-            for (const char16_t* alt = node; alt && OpOf(alt) == OpAlternative;
-                 alt = NextNode(alt)) {
+            for (const WCHAR* alt = node; alt && OpOf(alt) == OpAlternative; alt = NextNode(alt)) {
                 if (alt != node)
                     visited[size_t(alt - m_program)] = 1;
                 if (!CollectStartChars(OperandOf(alt), units, visited, depth + 1))
@@ -683,11 +682,11 @@ void VU_CRegExpression::ComputeStartSet() {
     m_startSet = CharRanges();
     if (m_anchored || m_firstChar || m_programSize > kMaxAnalysedUnits)
         return; // those searches have better hints
-    std::vector<char16_t> units;
+    std::vector<WCHAR> units;
     std::vector<uint8_t> visited(m_programSize, 0);
     if (!CollectStartChars(m_program, units, visited, 0))
         return;
-    std::vector<char16_t> lo, hi;
+    std::vector<WCHAR> lo, hi;
     MakeRanges(units.data(), units.size(), lo, hi);
     if (lo.size() > size_t(VU_CRegExpScan::kMaxRanges))
         return;
@@ -699,12 +698,12 @@ void VU_CRegExpression::ComputeStartSet() {
 
 // ---- Searching ---------------------------------------------------------
 
-int VU_CRegExpression::RegFind(const char16_t* string) {
+int VU_CRegExpression::RegFind(const WCHAR* string) {
     DiscardFoundText();
     m_stepLimitExceeded = false;
     if (!string || !m_compiled)
         return -1;
-    const char16_t* requiredAt = nullptr;
+    const WCHAR* requiredAt = nullptr;
     if (m_required) {
         requiredAt = VU_CRegExpScan::FindLiteral(string, m_required, m_requiredLength);
         if (!requiredAt)
@@ -713,7 +712,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
     m_stringStart = string;
     m_stepsLeft = m_stepLimit ? m_stepLimit : ULLONG_MAX;
 
-    const char16_t* at = string;
+    const WCHAR* at = string;
     bool matched = false;
     try {
         if (!m_program) {
@@ -738,7 +737,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
             // Every position up to the terminating NUL, skipping those that
             // cannot start a match; a failed attempt leaves no group set.
             ClearGroups();
-            const char16_t* repeated = m_leadingRepeat ? OperandOf(OperandOf(m_program)) : nullptr;
+            const WCHAR* repeated = m_leadingRepeat ? OperandOf(OperandOf(m_program)) : nullptr;
             for (;;) {
                 if (m_hasStartSet && !m_startSet.Contains(*at)) {
                     at = VU_CRegExpScan::FindInRanges(
@@ -779,7 +778,7 @@ int VU_CRegExpression::RegFind(const char16_t* string) {
     return FinishMatch(at);
 }
 
-int VU_CRegExpression::FinishMatch(const char16_t* position) {
+int VU_CRegExpression::FinishMatch(const WCHAR* position) {
     const ptrdiff_t index = position - m_stringStart;
     if (index > INT_MAX) {
         ClearGroups(); // not representable in the result
@@ -801,7 +800,7 @@ void VU_CRegExpression::ClearGroups() {
     std::fill(m_groupEnd, m_groupEnd + kGroupCount, nullptr);
 }
 
-bool VU_CRegExpression::TryAt(const char16_t* position) {
+bool VU_CRegExpression::TryAt(const WCHAR* position) {
     m_input = position;
     m_hasLeadingRun = false;
     ClearGroups();
@@ -818,7 +817,7 @@ bool VU_CRegExpression::TryAt(const char16_t* position) {
     return true;
 }
 
-size_t VU_CRegExpression::CountRepeat(const char16_t* node, const char16_t* at) const {
+size_t VU_CRegExpression::CountRepeat(const WCHAR* node, const WCHAR* at) const {
     switch (OpOf(node)) {
     case OpAnyChar:
         return VU_CRegExpScan::Length(at);
@@ -830,7 +829,7 @@ size_t VU_CRegExpression::CountRepeat(const char16_t* node, const char16_t* at) 
         if (!info)
             return 0;
         const bool wanted = OpOf(node) == OpInSet;
-        const char16_t* p = at;
+        const WCHAR* p = at;
         while (*p && info->members.Contains(*p) == wanted)
             ++p;
         return size_t(p - at);
@@ -843,9 +842,9 @@ size_t VU_CRegExpression::CountRepeat(const char16_t* node, const char16_t* at) 
 // The first alternative of the chain from `alt` whose contents could start
 // with `c`; alternatives whose first node rejects `c` would fail at once and
 // leave nothing behind, so skipping them keeps the order of attempts.
-const char16_t* VU_CRegExpression::SkipDeadAlternatives(const char16_t* alt, char16_t c) const {
+const WCHAR* VU_CRegExpression::SkipDeadAlternatives(const WCHAR* alt, WCHAR c) const {
     for (; alt && OpOf(alt) == OpAlternative; alt = NextNode(alt)) {
-        const char16_t* first = OperandOf(alt);
+        const WCHAR* first = OperandOf(alt);
         switch (OpOf(first)) {
         case OpLiteral:
             if (*OperandOf(first) == c)
@@ -938,18 +937,18 @@ inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
 
 } // namespace
 
-VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* start) {
-    const char16_t* const base = m_stringStart;
-    const char16_t* const program = m_program;
+VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) {
+    const WCHAR* const base = m_stringStart;
+    const WCHAR* const program = m_program;
     std::vector<uint32_t>& stack = m_stack;
     stack.clear();
     unsigned long long steps = m_stepsLeft;
-    const char16_t* in = m_input;
-    const char16_t* node = start;
+    const WCHAR* in = m_input;
+    const WCHAR* node = start;
     uint64_t top = uint64_t(in - base); // position of the top record
 
-    auto offsetOf = [program](const char16_t* p) { return uint32_t(p - program); };
-    auto pushBranch = [&](const char16_t* alt, uint64_t pos) {
+    auto offsetOf = [program](const WCHAR* p) { return uint32_t(p - program); };
+    auto pushBranch = [&](const WCHAR* alt, uint64_t pos) {
         const uint64_t distance = pos - top;
         top = pos;
         uint32_t field = uint32_t(distance);
@@ -969,7 +968,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
         }
         stack.push_back(kGroupRecord | slot << 2 | field << 7);
     };
-    auto pushRepeat = [&](const char16_t* repeat, uint64_t pos, uint64_t count) {
+    auto pushRepeat = [&](const WCHAR* repeat, uint64_t pos, uint64_t count) {
         PushWide(stack, count);
         PushWide(stack, pos - top);
         top = pos;
@@ -988,8 +987,8 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
                 failed = true;
                 break;
             }
-            const char16_t* next = NextNode(node);
-            const char16_t op = OpOf(node);
+            const WCHAR* next = NextNode(node);
+            const WCHAR op = OpOf(node);
             switch (op) {
             case OpAtStart:
                 failed = in != base;
@@ -1016,7 +1015,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
                     failed = true;
                 break;
             case OpLiteral: {
-                const char16_t* lit = OperandOf(node);
+                const WCHAR* lit = OperandOf(node);
                 if (*lit != *in) {
                     failed = true;
                     break;
@@ -1038,12 +1037,12 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
                     next = OperandOf(node); // a single choice
                     break;
                 }
-                const char16_t* first = SkipDeadAlternatives(node, *in);
+                const WCHAR* first = SkipDeadAlternatives(node, *in);
                 if (!first) {
                     failed = true;
                     break;
                 }
-                const char16_t* rest = NextNode(first);
+                const WCHAR* rest = NextNode(first);
                 rest =
                     rest && OpOf(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
                 if (rest)
@@ -1054,7 +1053,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
             case OpStar:
             case OpPlus: {
                 const size_t minimum = op == OpStar ? 0 : 1;
-                const char16_t lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
+                const WCHAR lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
                 const size_t count = CountRepeat(OperandOf(node), in);
                 if (m_stepLimit) {
                     const unsigned long long cost = count >> 4;
@@ -1142,9 +1141,9 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
             if (r.kind == kBranchRecord) {
                 stack.resize(stack.size() - r.words);
                 top = pos - r.distance;
-                const char16_t* alt = program + r.payload;
+                const WCHAR* alt = program + r.payload;
                 in = base + pos;
-                const char16_t* rest = NextNode(alt);
+                const WCHAR* rest = NextNode(alt);
                 rest =
                     rest && OpOf(rest) == OpAlternative ? SkipDeadAlternatives(rest, *in) : nullptr;
                 if (rest)
@@ -1155,11 +1154,11 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const char16_t* star
             }
             // A repetition: the next shorter count the following literal can
             // follow, if any.
-            const char16_t* repeat = program + r.payload;
-            const char16_t* next = NextNode(repeat);
+            const WCHAR* repeat = program + r.payload;
+            const WCHAR* next = NextNode(repeat);
             const size_t minimum = OpOf(repeat) == OpStar ? 0 : 1;
-            const char16_t lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
-            const char16_t* from = base + pos;
+            const WCHAR lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
+            const WCHAR* from = base + pos;
             const size_t countAt = stack.size() - r.words;
             size_t k = size_t(ReadWide(stack, countAt));
             bool found = false;
@@ -1207,30 +1206,30 @@ int VU_CRegExpression::GetGroupEnd(int n) const {
     return int(m_groupEnd[n] - m_stringStart);
 }
 
-char16_t* VU_CRegExpression::GetReplaceString(const char16_t* replacement) const {
+WCHAR* VU_CRegExpression::GetReplaceString(const WCHAR* replacement) const {
     if (!replacement || !m_hasFound)
         return nullptr;
     const size_t foundLength = m_foundText.size() - 1;
     // Two passes with the same rules: count, then copy.
-    auto expand = [&](char16_t* out) {
+    auto expand = [&](WCHAR* out) {
         size_t n = 0;
-        for (const char16_t* src = replacement; *src;) {
-            char16_t c = *src++;
+        for (const WCHAR* src = replacement; *src;) {
+            WCHAR c = *src++;
             int group = -1;
-            if (c == u'&')
+            if (c == VU_T('&'))
                 group = 0;
-            else if (c == u'\\' && *src >= u'0' && *src <= u'9')
-                group = *src++ - u'0';
+            else if (c == VU_T('\\') && *src >= VU_T('0') && *src <= VU_T('9'))
+                group = *src++ - VU_T('0');
             if (group < 0) {
-                if (c == u'\\' && (*src == u'\\' || *src == u'&'))
+                if (c == VU_T('\\') && (*src == VU_T('\\') || *src == VU_T('&')))
                     c = *src++;
                 if (out)
                     out[n] = c;
                 ++n;
                 continue;
             }
-            const char16_t* from = m_groupStart[group];
-            const char16_t* to = m_groupEnd[group];
+            const WCHAR* from = m_groupStart[group];
+            const WCHAR* to = m_groupEnd[group];
             if (!from || !to || to <= from || from < m_groupStart[0])
                 continue;
             const size_t offset = size_t(from - m_groupStart[0]);
@@ -1244,7 +1243,7 @@ char16_t* VU_CRegExpression::GetReplaceString(const char16_t* replacement) const
         return n;
     };
     const size_t length = expand(nullptr);
-    char16_t* result = new (std::nothrow) char16_t[length + 1];
+    WCHAR* result = new (std::nothrow) WCHAR[length + 1];
     if (!result)
         return nullptr;
     expand(result);

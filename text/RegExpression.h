@@ -18,6 +18,7 @@
 // Copying duplicates the program and the found text (each object owns its
 // own); the group positions of a copy point into the same searched string.
 
+#include "framework/Char.h"
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -27,7 +28,7 @@ public:
     // Node opcodes. A node is: opcode (1 unit), 32-bit next link (2 units,
     // low half first), then, for OpInSet/OpNotInSet/OpLiteral, a
     // NUL-terminated operand. The link of OpLoopBack points backwards.
-    enum Opcode : char16_t {
+    enum Opcode : WCHAR {
         OpEnd = 0,         // success
         OpAtStart = 1,     // empty, at the start of the searched string
         OpAtEnd = 2,       // empty, at the terminating NUL
@@ -66,16 +67,16 @@ public:
 
     // Compiles `pattern`; returns this, or null on a syntax error or a null
     // pattern. After a failed compile the previous program stays in use.
-    VU_CRegExpression* RegComp(const char16_t* pattern);
+    VU_CRegExpression* RegComp(const WCHAR* pattern);
     // Index of the first match in `string`, or -1 (also when the search ran
     // out of steps or memory, or the index would not fit in an int).
-    int RegFind(const char16_t* string);
+    int RegFind(const WCHAR* string);
     // Length of the last whole match, 0 when there is none.
     int GetFindLen() const;
     // The replacement template expanded with the last match (& and \0..\9
     // insert groups, \\ and \& give \ and &); a new array the caller frees
     // with delete[], or null after a failed search or for a null template.
-    char16_t* GetReplaceString(const char16_t* replacement) const;
+    WCHAR* GetReplaceString(const WCHAR* replacement) const;
 
     // Step budget: 0 (the default) means unlimited. When a search runs out of
     // steps RegFind returns -1 and IsStepLimitExceeded() is true until the
@@ -87,33 +88,33 @@ public:
 
     // Attributes (mainly for tests and diagnostics)
     bool IsCompiled() const { return m_compiled != 0; }
-    const char16_t* GetProgram() const { return m_program; }
+    const WCHAR* GetProgram() const { return m_program; }
     unsigned GetProgramSize() const { return m_program ? m_programSize : 0; }
-    char16_t GetFirstChar() const { return m_firstChar; }
+    WCHAR GetFirstChar() const { return m_firstChar; }
     bool IsAnchored() const { return m_anchored != 0; }
-    const char16_t* GetRequiredLiteral() const { return m_required; }
+    const WCHAR* GetRequiredLiteral() const { return m_required; }
     unsigned GetRequiredLength() const { return m_requiredLength; }
     // Group n (0..9) of the last search as character offsets from the start
     // of the string last searched, or -1 when not set.
     int GetGroupStart(int n) const;
     int GetGroupEnd(int n) const;
     // The text of the last match, or null after a failed search.
-    const char16_t* GetFoundText() const { return m_hasFound ? m_foundText.data() : nullptr; }
+    const WCHAR* GetFoundText() const { return m_hasFound ? m_foundText.data() : nullptr; }
 
     // Reads the 32-bit link of the node at `node`.
-    static uint32_t ReadLink(const char16_t* node) {
+    static uint32_t ReadLink(const WCHAR* node) {
         return uint32_t(node[1]) | (uint32_t(node[2]) << 16);
     }
 
 private:
     // A character class as sorted, merged ranges, with a Latin-1 bitmap.
     struct CharRanges {
-        std::vector<char16_t> lo, hi; // inclusive
+        std::vector<WCHAR> lo, hi; // inclusive
         uint64_t latin1[4] = {0, 0, 0, 0};
-        bool Contains(char16_t c) const {
+        bool Contains(WCHAR c) const {
             return c < 256 ? ((latin1[c >> 6] >> (c & 63)) & 1) != 0 : ContainsAbove255(c);
         }
-        bool ContainsAbove255(char16_t c) const;
+        bool ContainsAbove255(WCHAR c) const;
     };
     // Membership data for one OpInSet/OpNotInSet node.
     struct SetInfo {
@@ -123,40 +124,40 @@ private:
     enum class MatchResult { Fail, Match, OutOfSteps };
 
     // Parser, one step per grammar level
-    char16_t* ParseExpression(bool paren, int& flags);
-    char16_t* ParseBranch(int& flags);
-    char16_t* ParsePiece(int& flags);
-    char16_t* ParseAtom(int& flags);
-    char16_t* ParseSet();
+    WCHAR* ParseExpression(bool paren, int& flags);
+    WCHAR* ParseBranch(int& flags);
+    WCHAR* ParsePiece(int& flags);
+    WCHAR* ParseAtom(int& flags);
+    WCHAR* ParseSet();
     // Emitters
-    char16_t* EmitNode(char16_t op);
-    void EmitUnit(char16_t ch);
-    void InsertNode(char16_t op, char16_t* operand);
-    void LinkTail(char16_t* p, const char16_t* target);
-    void LinkOperandTail(char16_t* p, const char16_t* target);
+    WCHAR* EmitNode(WCHAR op);
+    void EmitUnit(WCHAR ch);
+    void InsertNode(WCHAR op, WCHAR* operand);
+    void LinkTail(WCHAR* p, const WCHAR* target);
+    void LinkOperandTail(WCHAR* p, const WCHAR* target);
     // Node access
-    static const char16_t* NextNode(const char16_t* p);
-    static char16_t* NextNode(char16_t* p);
-    static char16_t OpOf(const char16_t* p) { return *p; }
-    static const char16_t* OperandOf(const char16_t* p) { return p + kNodeUnits; }
-    static char16_t* OperandOf(char16_t* p) { return p + kNodeUnits; }
+    static const WCHAR* NextNode(const WCHAR* p);
+    static WCHAR* NextNode(WCHAR* p);
+    static WCHAR OpOf(const WCHAR* p) { return *p; }
+    static const WCHAR* OperandOf(const WCHAR* p) { return p + kNodeUnits; }
+    static WCHAR* OperandOf(WCHAR* p) { return p + kNodeUnits; }
     // Matcher
-    bool TryAt(const char16_t* position);
-    MatchResult MatchFrom(const char16_t* node);
-    size_t CountRepeat(const char16_t* node, const char16_t* at) const;
-    bool InSet(const char16_t* node, char16_t c) const;
-    const SetInfo* FindSetInfo(const char16_t* node) const;
-    const char16_t* SkipDeadAlternatives(const char16_t* alt, char16_t c) const;
+    bool TryAt(const WCHAR* position);
+    MatchResult MatchFrom(const WCHAR* node);
+    size_t CountRepeat(const WCHAR* node, const WCHAR* at) const;
+    bool InSet(const WCHAR* node, WCHAR c) const;
+    const SetInfo* FindSetInfo(const WCHAR* node) const;
+    const WCHAR* SkipDeadAlternatives(const WCHAR* alt, WCHAR c) const;
 
     // Compile-time analysis
     void ComputeHints(int flags);
     void BuildSetInfo();
     void ComputeStartSet();
-    bool CollectStartChars(const char16_t* node, std::vector<char16_t>& units,
+    bool CollectStartChars(const WCHAR* node, std::vector<WCHAR>& units,
                            std::vector<uint8_t>& visiting, int depth) const;
 
     // Search helpers
-    int FinishMatch(const char16_t* position);
+    int FinishMatch(const WCHAR* position);
     void ClearGroups();
     void DiscardFoundText() { m_hasFound = false; }
     void CopyFields(const VU_CRegExpression& other);
@@ -164,27 +165,27 @@ private:
     void Release();
 
     // State, in the order of the classic layout, then our additions
-    uint32_t m_emitting = 0;                        // 0 sizing pass, 1 emitting pass
-    uint32_t m_compiled = 0;                        // set by RegComp
-    std::vector<char16_t> m_foundText;              // copy of the last match + NUL
-    bool m_hasFound = false;                        // m_foundText is valid
-    const char16_t* m_groupStart[kGroupCount] = {}; // group starts in the searched string
-    const char16_t* m_groupEnd[kGroupCount] = {};   // group ends (one past)
-    char16_t m_firstChar = 0;                       // every match begins with it, or 0
-    uint16_t m_anchored = 0;                        // matches only at the string start
-    const char16_t* m_required = nullptr;           // literal every match contains
-    uint32_t m_requiredLength = 0;                  // its length
-    char16_t* m_program = nullptr;                  // the node program (owned)
-    const char16_t* m_parse = nullptr;              // pattern position while compiling
-    int m_groupCount = 1;                           // next group number while compiling
-    char16_t* m_emit = nullptr;                     // next unit to write
-    char16_t m_dummy[kNodeUnits] = {OpEmpty, 0, 0}; // target of sizing-pass writes
-    uint64_t m_programSize = 0;                     // units counted by the sizing pass
-    const char16_t* m_input = nullptr;              // matcher position
-    const char16_t* m_stringStart = nullptr;        // where ^ matches
+    uint32_t m_emitting = 0;                     // 0 sizing pass, 1 emitting pass
+    uint32_t m_compiled = 0;                     // set by RegComp
+    std::vector<WCHAR> m_foundText;              // copy of the last match + NUL
+    bool m_hasFound = false;                     // m_foundText is valid
+    const WCHAR* m_groupStart[kGroupCount] = {}; // group starts in the searched string
+    const WCHAR* m_groupEnd[kGroupCount] = {};   // group ends (one past)
+    WCHAR m_firstChar = 0;                       // every match begins with it, or 0
+    uint16_t m_anchored = 0;                     // matches only at the string start
+    const WCHAR* m_required = nullptr;           // literal every match contains
+    uint32_t m_requiredLength = 0;               // its length
+    WCHAR* m_program = nullptr;                  // the node program (owned)
+    const WCHAR* m_parse = nullptr;              // pattern position while compiling
+    int m_groupCount = 1;                        // next group number while compiling
+    WCHAR* m_emit = nullptr;                     // next unit to write
+    WCHAR m_dummy[kNodeUnits] = {OpEmpty, 0, 0}; // target of sizing-pass writes
+    uint64_t m_programSize = 0;                  // units counted by the sizing pass
+    const WCHAR* m_input = nullptr;              // matcher position
+    const WCHAR* m_stringStart = nullptr;        // where ^ matches
 
     // Search acceleration, derived from the program at compile time
-    const char16_t* m_firstLiteral = nullptr; // operand of the leading literal
+    const WCHAR* m_firstLiteral = nullptr; // operand of the leading literal
     uint32_t m_firstLiteralLength = 0;
     bool m_leadingRepeat = false; // program starts with OpStar/OpPlus
     size_t m_leadingRun = 0;      // its count in the last attempt

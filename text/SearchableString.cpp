@@ -24,19 +24,19 @@
 // character (several of which lower to ASCII letters, e.g. KELVIN SIGN).
 namespace {
 
-using TextView = std::u16string_view;
+using TextView = vu::StringView;
 
-int Length(const char16_t* s) {
-    return s ? static_cast<int>(std::char_traits<char16_t>::length(s)) : 0;
+int Length(const WCHAR* s) {
+    return s ? static_cast<int>(std::char_traits<WCHAR>::length(s)) : 0;
 }
 
-std::u16string Lowered(const char16_t* s, int n) {
-    std::u16string out(s, static_cast<std::size_t>(n));
+vu::String Lowered(const WCHAR* s, int n) {
+    vu::String out(s, static_cast<std::size_t>(n));
     vu::MakeLower(out.data(), out.size());
     return out;
 }
 
-bool EqualLowered(const char16_t* s, const char16_t* lowered, int m) {
+bool EqualLowered(const WCHAR* s, const WCHAR* lowered, int m) {
     for (int k = 0; k < m; ++k)
         if (vu::ToLower(s[k]) != lowered[k])
             return false;
@@ -45,20 +45,20 @@ bool EqualLowered(const char16_t* s, const char16_t* lowered, int m) {
 
 // The characters a scan's candidate test accepts for one needle character.
 struct CharClass {
-    char16_t a, b; // accepted exactly (equal when only one)
+    WCHAR a, b;    // accepted exactly (equal when only one)
     bool nonAscii; // every character >= 0x80 is accepted too
 
-    static CharClass Exact(char16_t c) { return {c, c, false}; }
+    static CharClass Exact(WCHAR c) { return {c, c, false}; }
     // Characters whose lower case is the (already lowered) c.
-    static CharClass Folded(char16_t c) {
+    static CharClass Folded(WCHAR c) {
         if (c >= 0x80)
             return {0xFFFF, 0xFFFF, true}; // no ASCII character lowers to c
-        char16_t other = c;
-        if (c >= u'a' && c <= u'z' && vu::ToLower(static_cast<char16_t>(c - 32)) == c)
-            other = static_cast<char16_t>(c - 32);
+        WCHAR other = c;
+        if (c >= VU_T('a') && c <= VU_T('z') && vu::ToLower(static_cast<WCHAR>(c - 32)) == c)
+            other = static_cast<WCHAR>(c - 32);
         return {c, other, true};
     }
-    bool Accepts(char16_t x) const { return x == a || x == b || (nonAscii && x >= 0x80); }
+    bool Accepts(WCHAR x) const { return x == a || x == b || (nonAscii && x >= 0x80); }
 };
 
 #if defined(__SSE2__)
@@ -77,7 +77,7 @@ template <bool Folded> struct CharClassVec {
     }
 };
 
-inline __m128i Load(const char16_t* p) {
+inline __m128i Load(const WCHAR* p) {
     return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
 }
 #endif
@@ -85,27 +85,27 @@ inline __m128i Load(const char16_t* p) {
 // A needle ready to scan for: its first and last character classes and how to
 // verify a candidate.
 struct Needle {
-    const char16_t* text; // lowered when noCase
+    const WCHAR* text; // lowered when noCase
     int length;
     bool noCase;
     CharClass first, last;
     bool filterIsExact; // a candidate is already a match (exact, at most 2 units)
 
-    Needle(const char16_t* t, int m, bool nc)
+    Needle(const WCHAR* t, int m, bool nc)
         : text(t), length(m), noCase(nc),
           first(nc ? CharClass::Folded(t[0]) : CharClass::Exact(t[0])),
           last(nc ? CharClass::Folded(t[m - 1]) : CharClass::Exact(t[m - 1])),
           filterIsExact(!nc && m <= 2) {}
 
-    bool MatchesAt(const char16_t* s) const {
+    bool MatchesAt(const WCHAR* s) const {
         if (filterIsExact)
             return true;
         if (noCase)
             return EqualLowered(s, text, length);
-        return std::memcmp(s + 1, text + 1,
-                           sizeof(char16_t) * static_cast<std::size_t>(length - 1)) == 0;
+        return std::memcmp(s + 1, text + 1, sizeof(WCHAR) * static_cast<std::size_t>(length - 1)) ==
+               0;
     }
-    bool Candidate(const char16_t* s) const {
+    bool Candidate(const WCHAR* s) const {
         return first.Accepts(s[0]) && last.Accepts(s[length - 1]);
     }
 };
@@ -114,7 +114,7 @@ struct Needle {
 // first and non-overlapping (the next one begins at or after p + length),
 // until onMatch returns false. Returns the position where it did, or -1.
 template <bool Folded, class OnMatch>
-int ForEachOccurrenceOf(const char16_t* s, int n, int from, const Needle& nd, OnMatch& onMatch) {
+int ForEachOccurrenceOf(const WCHAR* s, int n, int from, const Needle& nd, OnMatch& onMatch) {
     const int m = nd.length;
     const int lastStart = n - m;
     int next = from; // no occurrence may begin before it
@@ -124,7 +124,7 @@ int ForEachOccurrenceOf(const char16_t* s, int n, int from, const Needle& nd, On
     // Sixteen positions per step: the two halves' 16-bit lane masks are
     // packed to bytes so that bit k of the mask stands for position i + k.
     for (; i + 16 <= lastStart + 1; i += 16) {
-        const char16_t* tail = s + i + m - 1;
+        const WCHAR* tail = s + i + m - 1;
         const __m128i low = _mm_and_si128(first.Match(Load(s + i)), last.Match(Load(tail)));
         const __m128i high =
             _mm_and_si128(first.Match(Load(s + i + 8)), last.Match(Load(tail + 8)));
@@ -150,26 +150,26 @@ int ForEachOccurrenceOf(const char16_t* s, int n, int from, const Needle& nd, On
 }
 
 template <class OnMatch>
-int ForEachOccurrence(const char16_t* s, int n, int from, const Needle& nd, OnMatch&& onMatch) {
+int ForEachOccurrence(const WCHAR* s, int n, int from, const Needle& nd, OnMatch&& onMatch) {
     return nd.noCase ? ForEachOccurrenceOf<true>(s, n, from, nd, onMatch)
                      : ForEachOccurrenceOf<false>(s, n, from, nd, onMatch);
 }
 
 // First position p >= from with p + m <= n where the needle matches, or -1.
-int ScanForward(const char16_t* s, int n, int from, const Needle& nd) {
+int ScanForward(const WCHAR* s, int n, int from, const Needle& nd) {
     return ForEachOccurrence(s, n, from, nd, [](int) { return false; });
 }
 
 // Last position p <= start (p + m <= n) where the needle matches, or -1.
-template <bool Folded> int ScanBackwardOf(const char16_t* s, int n, int start, const Needle& nd) {
+template <bool Folded> int ScanBackwardOf(const WCHAR* s, int n, int start, const Needle& nd) {
     const int m = nd.length;
     int i = std::min(start, n - m);
 #if defined(__SSE2__)
     const CharClassVec<Folded> first(nd.first), last(nd.last);
     // Sixteen positions per step ending at i, the highest first.
     for (; i - 15 >= 0; i -= 16) {
-        const char16_t* block = s + i - 15;
-        const char16_t* tail = block + m - 1;
+        const WCHAR* block = s + i - 15;
+        const WCHAR* tail = block + m - 1;
         const __m128i low = _mm_and_si128(first.Match(Load(block)), last.Match(Load(tail)));
         const __m128i high =
             _mm_and_si128(first.Match(Load(block + 8)), last.Match(Load(tail + 8)));
@@ -188,7 +188,7 @@ template <bool Folded> int ScanBackwardOf(const char16_t* s, int n, int start, c
     return -1;
 }
 
-int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
+int ScanBackward(const WCHAR* s, int n, int start, const Needle& nd) {
     return nd.noCase ? ScanBackwardOf<true>(s, n, start, nd)
                      : ScanBackwardOf<false>(s, n, start, nd);
 }
@@ -197,11 +197,11 @@ int ScanBackward(const char16_t* s, int n, int start, const Needle& nd) {
 class DelimiterSet {
 public:
     explicit DelimiterSet(const CString& delimiters) : m_all(delimiters.View()) {
-        for (char16_t c : m_all)
+        for (WCHAR c : m_all)
             if (c < 128)
                 m_ascii[c >> 6] |= std::uint64_t{1} << (c & 63);
     }
-    bool Contains(char16_t c) const {
+    bool Contains(WCHAR c) const {
         if (c < 128)
             return (m_ascii[c >> 6] >> (c & 63)) & 1;
         return m_all.find(c) != TextView::npos;
@@ -215,11 +215,9 @@ private:
 // Whether the m characters at index of s (length n) stand between boundaries.
 // With lowered, the neighbours are lowered before the test (as in a lowered
 // copy of the text).
-bool IsWholeWord(const char16_t* s, int n, int index, int m, const DelimiterSet& delimiters,
+bool IsWholeWord(const WCHAR* s, int n, int index, int m, const DelimiterSet& delimiters,
                  bool lowered) {
-    auto isDelimiter = [&](char16_t c) {
-        return delimiters.Contains(lowered ? vu::ToLower(c) : c);
-    };
+    auto isDelimiter = [&](WCHAR c) { return delimiters.Contains(lowered ? vu::ToLower(c) : c); };
     if (index - 1 >= 0 && !isDelimiter(s[index - 1]))
         return false;
     if (index < n - m && !isDelimiter(s[index + m]))
@@ -231,11 +229,11 @@ bool IsWholeWord(const char16_t* s, int n, int index, int m, const DelimiterSet&
 
 // ---- Construction ---------------------------------------------------------
 
-const char16_t VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS[] =
-    u" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~";
+const WCHAR VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS[] =
+    VU_T(" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~");
 
 static CString Widened(const unsigned char* text) {
-    std::u16string out;
+    vu::String out;
     if (text)
         for (; *text; ++text)
             out.push_back(*text);
@@ -252,17 +250,17 @@ VU_CSearchableString::VU_CSearchableString(const VU_CSearchableString& other)
     m_regExp = other.m_regExp;
 }
 
-VU_CSearchableString::VU_CSearchableString(char16_t ch, int repeat)
+VU_CSearchableString::VU_CSearchableString(WCHAR ch, int repeat)
     : CString(ch, repeat), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
 
-VU_CSearchableString::VU_CSearchableString(const char16_t* text, int length)
+VU_CSearchableString::VU_CSearchableString(const WCHAR* text, int length)
     : CString(text && length > 0 ? CString(text, length) : CString()),
       m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
 
 VU_CSearchableString::VU_CSearchableString(const unsigned char* text)
     : CString(Widened(text)), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
 
-VU_CSearchableString::VU_CSearchableString(const char16_t* text)
+VU_CSearchableString::VU_CSearchableString(const WCHAR* text)
     : CString(text), m_tokenDelimiters(c_DEFAULT_TOKEN_DELIMITERS) {}
 
 VU_CSearchableString::VU_CSearchableString(const char* text)
@@ -285,12 +283,12 @@ VU_CSearchableString& VU_CSearchableString::operator=(const CString& text) {
     return *this;
 }
 
-VU_CSearchableString& VU_CSearchableString::operator=(const char16_t* text) {
+VU_CSearchableString& VU_CSearchableString::operator=(const WCHAR* text) {
     CString::operator=(text);
     return *this;
 }
 
-void VU_CSearchableString::SetTokenDelimiters(const char16_t* delimiters) {
+void VU_CSearchableString::SetTokenDelimiters(const WCHAR* delimiters) {
     m_tokenDelimiters = delimiters; // null gives an empty set
 }
 
@@ -298,30 +296,30 @@ void VU_CSearchableString::SetTokenDelimiters(const CString& delimiters) {
     m_tokenDelimiters = delimiters;
 }
 
-void VU_CSearchableString::SetText(std::u16string&& text) {
+void VU_CSearchableString::SetText(vu::String&& text) {
     CString::operator=(CString(std::move(text)));
 }
 
 // ---- Editing --------------------------------------------------------------
 
-VU_CSearchableString& VU_CSearchableString::InsertAt(int index, char16_t ch) {
-    const char16_t text[2] = {ch, 0};
+VU_CSearchableString& VU_CSearchableString::InsertAt(int index, WCHAR ch) {
+    const WCHAR text[2] = {ch, 0};
     return InsertAt(index, text);
 }
 
-VU_CSearchableString& VU_CSearchableString::InsertAt(int index, const char16_t* text) {
+VU_CSearchableString& VU_CSearchableString::InsertAt(int index, const WCHAR* text) {
     const int m = Length(text);
     if (m == 0 || index < 0 || static_cast<long long>(index) + m > INT_MAX)
         return *this; // nothing to insert, or a result no string can hold
     const TextView old = View();
-    std::u16string out;
+    vu::String out;
     if (index < static_cast<int>(old.size())) {
         out.reserve(old.size() + m);
         out.append(old.substr(0, index)).append(text, m).append(old.substr(index));
     } else {
         // Beyond the end the gap is filled with blanks.
         out.reserve(static_cast<std::size_t>(index) + m);
-        out.append(old).append(index - old.size(), u' ').append(text, m);
+        out.append(old).append(index - old.size(), VU_T(' ')).append(text, m);
     }
     SetText(std::move(out));
     return *this;
@@ -336,14 +334,14 @@ VU_CSearchableString& VU_CSearchableString::DeleteAt(int index, int count) {
     if (count == 0)
         return *this;
     const TextView old = View();
-    std::u16string out;
+    vu::String out;
     out.reserve(n - count);
     out.append(old.substr(0, index)).append(old.substr(index + count));
     SetText(std::move(out));
     return *this;
 }
 
-VU_CSearchableString& VU_CSearchableString::ReplaceAt(int index, int count, const char16_t* text) {
+VU_CSearchableString& VU_CSearchableString::ReplaceAt(int index, int count, const WCHAR* text) {
     const int n = GetLength();
     index = std::clamp(index, 0, n);
     count = std::clamp(count, 0, n - index);
@@ -351,9 +349,11 @@ VU_CSearchableString& VU_CSearchableString::ReplaceAt(int index, int count, cons
     if ((count == 0 && m == 0) || static_cast<long long>(n) - count + m > INT_MAX)
         return *this;
     const TextView old = View();
-    std::u16string out;
+    vu::String out;
     out.reserve(static_cast<std::size_t>(n) - count + m);
-    out.append(old.substr(0, index)).append(text ? text : u"", m).append(old.substr(index + count));
+    out.append(old.substr(0, index))
+        .append(text ? text : VU_T(""), m)
+        .append(old.substr(index + count));
     SetText(std::move(out));
     return *this;
 }
@@ -367,18 +367,18 @@ int VU_CSearchableString::CheckForWholeWord(int index, int length) const {
     return IsWholeWord(GetString(), GetLength(), index, length, delimiters, false) ? index : -1;
 }
 
-int VU_CSearchableString::FindExact(const char16_t* text, int start, BOOL wholeWord,
+int VU_CSearchableString::FindExact(const WCHAR* text, int start, BOOL wholeWord,
                                     bool noCase) const {
     const int m = Length(text);
     const int n = GetLength();
     start = std::max(start, 0);
     if (m == 0 || start > n - m)
         return -1;
-    std::u16string lowered;
+    vu::String lowered;
     if (noCase)
         lowered = Lowered(text, m);
     const Needle needle(noCase ? lowered.c_str() : text, m, noCase);
-    const char16_t* s = GetString();
+    const WCHAR* s = GetString();
     if (!wholeWord)
         return ScanForward(s, n, start, needle);
     const DelimiterSet delimiters(m_tokenDelimiters);
@@ -390,7 +390,7 @@ int VU_CSearchableString::FindExact(const char16_t* text, int start, BOOL wholeW
     return -1;
 }
 
-int VU_CSearchableString::FindN(char16_t ch, int from, int to, BOOL wholeWord) {
+int VU_CSearchableString::FindN(WCHAR ch, int from, int to, BOOL wholeWord) {
     if (from == to && from < INT_MAX)
         to = from + 1;
     const int n = GetLength();
@@ -403,27 +403,27 @@ int VU_CSearchableString::FindN(char16_t ch, int from, int to, BOOL wholeWord) {
     return wholeWord ? CheckForWholeWord(p, 1) : p;
 }
 
-int VU_CSearchableString::Find(const char16_t* text, int start, BOOL wholeWord) {
+int VU_CSearchableString::Find(const WCHAR* text, int start, BOOL wholeWord) {
     return FindExact(text, start, wholeWord, false);
 }
 
-int VU_CSearchableString::Find(char16_t ch, int start, BOOL wholeWord) {
-    const char16_t text[2] = {ch, 0};
+int VU_CSearchableString::Find(WCHAR ch, int start, BOOL wholeWord) {
+    const WCHAR text[2] = {ch, 0};
     return FindExact(text, start, wholeWord, false);
 }
 
-int VU_CSearchableString::FindNoCase(const char16_t* text, int start, BOOL wholeWord) {
+int VU_CSearchableString::FindNoCase(const WCHAR* text, int start, BOOL wholeWord) {
     return FindExact(text, start, wholeWord, true);
 }
 
-int VU_CSearchableString::FindNoCase(char16_t ch, int start, BOOL wholeWord) {
+int VU_CSearchableString::FindNoCase(WCHAR ch, int start, BOOL wholeWord) {
     // Compared as unsigned, -1 loses to any real position.
     const unsigned lower = static_cast<unsigned>(Find(vu::ToLower(ch), start, wholeWord));
     const unsigned upper = static_cast<unsigned>(Find(vu::ToUpper(ch), start, wholeWord));
     return static_cast<int>(std::min(lower, upper));
 }
 
-int VU_CSearchableString::InternalReverseFind(const char16_t* text, int start, BOOL wholeWord,
+int VU_CSearchableString::InternalReverseFind(const WCHAR* text, int start, BOOL wholeWord,
                                               bool noCase) {
     const int m = Length(text);
     const int n = GetLength();
@@ -431,11 +431,11 @@ int VU_CSearchableString::InternalReverseFind(const char16_t* text, int start, B
         return -1;
     if (start == -1 || start >= n)
         start = n - 1;
-    std::u16string lowered;
+    vu::String lowered;
     if (noCase)
         lowered = Lowered(text, m);
     const Needle needle(noCase ? lowered.c_str() : text, m, noCase);
-    const char16_t* s = GetString();
+    const WCHAR* s = GetString();
     int p = ScanBackward(s, n, start, needle);
     if (!wholeWord)
         return p;
@@ -446,25 +446,25 @@ int VU_CSearchableString::InternalReverseFind(const char16_t* text, int start, B
     return -1;
 }
 
-int VU_CSearchableString::ReverseFind(const char16_t* text, int start, BOOL wholeWord) {
+int VU_CSearchableString::ReverseFind(const WCHAR* text, int start, BOOL wholeWord) {
     return InternalReverseFind(text, start, wholeWord, false);
 }
 
-int VU_CSearchableString::ReverseFind(char16_t ch) {
+int VU_CSearchableString::ReverseFind(WCHAR ch) {
     const Needle needle(&ch, 1, false);
     return ScanBackward(GetString(), GetLength(), GetLength() - 1, needle);
 }
 
-int VU_CSearchableString::ReverseFindNoCase(const char16_t* text, int start, BOOL wholeWord) {
+int VU_CSearchableString::ReverseFindNoCase(const WCHAR* text, int start, BOOL wholeWord) {
     return InternalReverseFind(text, start, wholeWord, true);
 }
 
-int VU_CSearchableString::ReverseFindNoCase(char16_t ch, int start, BOOL wholeWord) {
-    const char16_t text[2] = {ch, 0};
+int VU_CSearchableString::ReverseFindNoCase(WCHAR ch, int start, BOOL wholeWord) {
+    const WCHAR text[2] = {ch, 0};
     return ReverseFindNoCase(text, start, wholeWord);
 }
 
-int VU_CSearchableString::FindRegularExp(const char16_t* pattern, int start) {
+int VU_CSearchableString::FindRegularExp(const WCHAR* pattern, int start) {
     m_regExp.RegComp(pattern); // on failure the previous pattern stays in use
     start = std::max(start, 0);
     if (start > GetLength())
@@ -481,7 +481,7 @@ bool VU_CSearchableString::IsReplaceAtOverridden() const {
     // member function holds 1 + the byte offset of its vtable slot. The entry
     // in that slot of this object's vtable is our own ReplaceAt unless the
     // dynamic type overrides it.
-    using ReplaceFn = VU_CSearchableString& (VU_CSearchableString::*)(int, int, const char16_t*);
+    using ReplaceFn = VU_CSearchableString& (VU_CSearchableString::*)(int, int, const WCHAR*);
     static_assert(sizeof(ReplaceFn) == 2 * sizeof(std::uintptr_t));
     static const std::uintptr_t slot = [] {
         const ReplaceFn pmf = &VU_CSearchableString::ReplaceAt;
@@ -521,17 +521,17 @@ constexpr std::size_t kChunk = 32; // units moved per step by CopyWithSlack
 // units past the end of both ranges, which the caller must own. Gaps between
 // frequent matches are short and of varying length; whole chunks keep the
 // copy free of length-dependent branches and library calls.
-inline char16_t* CopyWithSlack(char16_t* to, const char16_t* from, std::size_t n) {
+inline WCHAR* CopyWithSlack(WCHAR* to, const WCHAR* from, std::size_t n) {
     std::size_t k = 0;
     do {
-        std::memcpy(to + k, from + k, kChunk * sizeof(char16_t));
+        std::memcpy(to + k, from + k, kChunk * sizeof(WCHAR));
         k += kChunk;
     } while (k < n);
     return to + n;
 }
 
-inline char16_t* CopyExact(char16_t* to, const char16_t* from, std::size_t n) {
-    std::memcpy(to, from, n * sizeof(char16_t));
+inline WCHAR* CopyExact(WCHAR* to, const WCHAR* from, std::size_t n) {
+    std::memcpy(to, from, n * sizeof(WCHAR));
     return to + n;
 }
 
@@ -551,7 +551,7 @@ bool ResultSize(std::size_t textSize, std::size_t count, long long removed, std:
 // end the copies are exact.
 class Rebuilder {
 public:
-    Rebuilder(std::u16string_view text, std::u16string_view replacement, std::u16string& out)
+    Rebuilder(vu::StringView text, vu::StringView replacement, vu::String& out)
         : m_text(text), m_replacement(replacement), m_padded(replacement), m_to(out.data()),
           m_end(out.data() + out.size()) {
         m_padded.resize(replacement.size() + kChunk);
@@ -559,7 +559,7 @@ public:
     // Stretches come in ascending order and do not overlap.
     void Replace(std::size_t at, std::size_t length) {
         const std::size_t gap = at - m_copied;
-        const char16_t* from = m_text.data() + m_copied;
+        const WCHAR* from = m_text.data() + m_copied;
         if (at + kChunk <= m_text.size() && m_to + gap + m_replacement.size() + kChunk <= m_end) {
             m_to = CopyWithSlack(m_to, from, gap);
             m_to = CopyWithSlack(m_to, m_padded.data(), m_replacement.size());
@@ -572,10 +572,10 @@ public:
     void Finish() { CopyExact(m_to, m_text.data() + m_copied, m_text.size() - m_copied); }
 
 private:
-    std::u16string_view m_text, m_replacement;
-    std::u16string m_padded; // the replacement with room for chunk reads
-    char16_t* m_to;
-    char16_t* const m_end;
+    vu::StringView m_text, m_replacement;
+    vu::String m_padded; // the replacement with room for chunk reads
+    WCHAR* m_to;
+    WCHAR* const m_end;
     std::size_t m_copied = 0; // units of the text dealt with
 };
 
@@ -584,9 +584,9 @@ private:
 // Replace-all in one pass over the text: the occurrences found are exactly
 // those the replacement-by-replacement loop finds (non-overlapping, from the
 // start, never inside inserted text), so the result is the same.
-int VU_CSearchableString::ReplaceAllInOnePass(const char16_t* find, int m,
-                                              std::u16string_view replacement, bool noCase) {
-    std::u16string lowered;
+int VU_CSearchableString::ReplaceAllInOnePass(const WCHAR* find, int m, vu::StringView replacement,
+                                              bool noCase) {
+    vu::String lowered;
     if (noCase)
         lowered = Lowered(find, m);
     const Needle needle(noCase ? lowered.c_str() : find, m, noCase);
@@ -602,7 +602,7 @@ int VU_CSearchableString::ReplaceAllInOnePass(const char16_t* find, int m,
     if (count == 0 || !ResultSize(text.size(), count, static_cast<long long>(count) * m,
                                   replacement.size(), size))
         return 0;
-    std::u16string out(size, u'\0');
+    vu::String out(size, VU_T('\0'));
     Rebuilder rebuilder(text, replacement, out);
     ForEachOccurrence(text.data(), n, 0, needle, [&rebuilder, m](int p) {
         rebuilder.Replace(static_cast<std::size_t>(p), static_cast<std::size_t>(m));
@@ -613,16 +613,16 @@ int VU_CSearchableString::ReplaceAllInOnePass(const char16_t* find, int m,
     return static_cast<int>(count);
 }
 
-int VU_CSearchableString::ReplaceText(const char16_t* find, const char16_t* replacement, BOOL all,
+int VU_CSearchableString::ReplaceText(const WCHAR* find, const WCHAR* replacement, BOOL all,
                                       bool noCase) {
     const int m = Length(find);
     if (m == 0)
         return 0;
     const int r = Length(replacement);
     if (!replacement)
-        replacement = u"";
+        replacement = VU_T("");
     if (all && !IsReplaceAtOverridden())
-        return ReplaceAllInOnePass(find, m, std::u16string_view(replacement, r), noCase);
+        return ReplaceAllInOnePass(find, m, vu::StringView(replacement, r), noCase);
 
     if (!noCase) {
         // Each search runs on the text as ReplaceAt left it.
@@ -651,24 +651,24 @@ int VU_CSearchableString::ReplaceText(const char16_t* find, const char16_t* repl
     return count;
 }
 
-int VU_CSearchableString::FindReplace(const char16_t* find, const char16_t* replacement, BOOL all,
+int VU_CSearchableString::FindReplace(const WCHAR* find, const WCHAR* replacement, BOOL all,
                                       BOOL /*wholeWord: ignored*/) {
     return ReplaceText(find, replacement, all, false);
 }
 
-int VU_CSearchableString::FindReplaceNoCase(const char16_t* find, const char16_t* replacement,
-                                            BOOL all, BOOL /*wholeWord: ignored*/) {
+int VU_CSearchableString::FindReplaceNoCase(const WCHAR* find, const WCHAR* replacement, BOOL all,
+                                            BOOL /*wholeWord: ignored*/) {
     return ReplaceText(find, replacement, all, true);
 }
 
-int VU_CSearchableString::FindReplaceRegularExp(const char16_t* pattern,
-                                                const char16_t* replacement, BOOL all) {
+int VU_CSearchableString::FindReplaceRegularExp(const WCHAR* pattern, const WCHAR* replacement,
+                                                BOOL all) {
     m_regExp.RegComp(pattern); // on failure the previous pattern stays in use
     const int r = Length(replacement);
     if (!replacement)
-        replacement = u"";
+        replacement = VU_T("");
     if (all && !IsReplaceAtOverridden())
-        return RegularExpReplaceAllInOnePass(std::u16string_view(replacement, r));
+        return RegularExpReplaceAllInOnePass(vu::StringView(replacement, r));
 
     // Each search starts right after the inserted replacement, on the text as
     // ReplaceAt left it; after an empty match one more character is skipped.
@@ -691,9 +691,9 @@ int VU_CSearchableString::FindReplaceRegularExp(const char16_t* pattern,
 // The regular-expression replace-all in one pass: every search runs on the
 // unchanged rest of the original text, which is what the loop above searches
 // after each replacement.
-int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view replacement) {
+int VU_CSearchableString::RegularExpReplaceAllInOnePass(vu::StringView replacement) {
     const int n = GetLength();
-    const char16_t* s = GetString();
+    const WCHAR* s = GetString();
     // Matches are kept in small blocks: a run of huge reallocations would
     // cost more than the replacement on a large text.
     std::deque<Run> runs;
@@ -712,7 +712,7 @@ int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view repl
     std::size_t size = 0;
     if (runs.empty() || !ResultSize(n, runs.size(), removed, replacement.size(), size))
         return 0;
-    std::u16string out(size, u'\0');
+    vu::String out(size, VU_T('\0'));
     Rebuilder rebuilder(View(), replacement, out);
     for (const Run& run : runs)
         rebuilder.Replace(static_cast<std::size_t>(run.at), static_cast<std::size_t>(run.length));
@@ -723,12 +723,12 @@ int VU_CSearchableString::RegularExpReplaceAllInOnePass(std::u16string_view repl
 
 // ---- Fields ---------------------------------------------------------------
 
-int VU_CSearchableString::GetFieldCount(char16_t delimiter) {
-    const char16_t text[2] = {delimiter, 0};
+int VU_CSearchableString::GetFieldCount(WCHAR delimiter) {
+    const WCHAR text[2] = {delimiter, 0};
     return GetFieldCount(text);
 }
 
-int VU_CSearchableString::GetFieldCount(const char16_t* delimiter) {
+int VU_CSearchableString::GetFieldCount(const WCHAR* delimiter) {
     const int m = Length(delimiter);
     int count = 1;
     if (m == 0)
@@ -739,7 +739,7 @@ int VU_CSearchableString::GetFieldCount(const char16_t* delimiter) {
     return count;
 }
 
-VU_CSearchableString VU_CSearchableString::GetField(const char16_t* delimiter, int n) const {
+VU_CSearchableString VU_CSearchableString::GetField(const WCHAR* delimiter, int n) const {
     if (n < 0)
         return VU_CSearchableString();
     const int m = Length(delimiter);
@@ -760,13 +760,13 @@ VU_CSearchableString VU_CSearchableString::GetField(const char16_t* delimiter, i
     return VU_CSearchableString(GetString() + begin, end - begin);
 }
 
-VU_CSearchableString VU_CSearchableString::GetField(char16_t delimiter, int n) const {
-    const char16_t text[2] = {delimiter, 0};
+VU_CSearchableString VU_CSearchableString::GetField(WCHAR delimiter, int n) const {
+    const WCHAR text[2] = {delimiter, 0};
     return GetField(text, n);
 }
 
-VU_CSearchableString VU_CSearchableString::GetDelimitedField(const char16_t* open,
-                                                             const char16_t* close, int n) const {
+VU_CSearchableString VU_CSearchableString::GetDelimitedField(const WCHAR* open, const WCHAR* close,
+                                                             int n) const {
     if (n < 0)
         return VU_CSearchableString();
     const int openLength = Length(open), closeLength = Length(close);

@@ -37,10 +37,10 @@ public:
     VU_CSearchableString();
     VU_CSearchableString(const CString& text);
     VU_CSearchableString(const VU_CSearchableString& other);
-    VU_CSearchableString(char16_t ch, int repeat);
-    VU_CSearchableString(const char16_t* text, int length);
+    VU_CSearchableString(WCHAR ch, int repeat);
+    VU_CSearchableString(const WCHAR* text, int length);
     VU_CSearchableString(const unsigned char* text);
-    VU_CSearchableString(const char16_t* text);
+    VU_CSearchableString(const WCHAR* text);
     VU_CSearchableString(const char* text);
     ~VU_CSearchableString();
 
@@ -48,14 +48,14 @@ public:
     VU_CSearchableString& operator=(const VU_CSearchableString& other);
     // Replace the text only; delimiters and regular-expression state stay.
     VU_CSearchableString& operator=(const CString& text);
-    VU_CSearchableString& operator=(const char16_t* text);
+    VU_CSearchableString& operator=(const WCHAR* text);
 
     // The 28 delimiters every constructor sets: space , . ? ! @ # $ % ^ & * ( )
     // - / " ' ; : [ ] + \ tab CR LF ~
-    static const char16_t c_DEFAULT_TOKEN_DELIMITERS[];
+    static const WCHAR c_DEFAULT_TOKEN_DELIMITERS[];
 
     // Attributes
-    void SetTokenDelimiters(const char16_t* delimiters); // null gives none
+    void SetTokenDelimiters(const WCHAR* delimiters); // null gives none
     void SetTokenDelimiters(const CString& delimiters);
     CString& GetTokenDelimiters() { return m_tokenDelimiters; }
     const CString& GetTokenDelimiters() const { return m_tokenDelimiters; }
@@ -64,66 +64,65 @@ public:
     //
     // InsertAt: nothing for an empty text or a negative index; beyond the end
     // the gap is filled with spaces. The character form calls the text form.
-    virtual VU_CSearchableString& InsertAt(int index, char16_t ch);
-    virtual VU_CSearchableString& InsertAt(int index, const char16_t* text);
+    virtual VU_CSearchableString& InsertAt(int index, WCHAR ch);
+    virtual VU_CSearchableString& InsertAt(int index, const WCHAR* text);
     // Nothing when index is outside the text; a negative count, or one that
     // reaches past the end, deletes up to the end.
     virtual VU_CSearchableString& DeleteAt(int index, int count);
     // Deletes count characters at index and inserts text there; index and
     // count are clamped to the text (an index past the end appends).
-    virtual VU_CSearchableString& ReplaceAt(int index, int count, const char16_t* text);
+    virtual VU_CSearchableString& ReplaceAt(int index, int count, const WCHAR* text);
     // ch within [from, to) (only the character at `from` when from == to).
     // With wholeWord the first occurrence is tested once, with no second try.
-    virtual int FindN(char16_t ch, int from, int to, BOOL wholeWord = FALSE);
+    virtual int FindN(WCHAR ch, int from, int to, BOOL wholeWord = FALSE);
     // With wholeWord, after a rejected occurrence the text form resumes past
     // it (overlapping occurrences are skipped), the character form at the
     // next character.
-    virtual int Find(const char16_t* text, int start = 0, BOOL wholeWord = FALSE);
-    virtual int Find(char16_t ch, int start = 0, BOOL wholeWord = FALSE);
-    virtual int FindNoCase(const char16_t* text, int start = 0, BOOL wholeWord = FALSE);
+    virtual int Find(const WCHAR* text, int start = 0, BOOL wholeWord = FALSE);
+    virtual int Find(WCHAR ch, int start = 0, BOOL wholeWord = FALSE);
+    virtual int FindNoCase(const WCHAR* text, int start = 0, BOOL wholeWord = FALSE);
     // The earlier of Find(lower ch) and Find(upper ch), through Find(ch).
-    virtual int FindNoCase(char16_t ch, int start = 0, BOOL wholeWord = FALSE);
+    virtual int FindNoCase(WCHAR ch, int start = 0, BOOL wholeWord = FALSE);
     // Compiles pattern (a pattern that fails to compile leaves the previous
     // one in use) and searches the text from start; '^' matches at start.
-    virtual int FindRegularExp(const char16_t* pattern, int start = 0);
+    virtual int FindRegularExp(const WCHAR* pattern, int start = 0);
     // Replaces the first (or every) match with `replacement` taken literally:
     // '&' and group references are not expanded. After an empty match the
     // next search starts one character further on (the character is kept),
     // so every run ends.
-    virtual int FindReplaceRegularExp(const char16_t* pattern, const char16_t* replacement,
+    virtual int FindReplaceRegularExp(const WCHAR* pattern, const WCHAR* replacement,
                                       BOOL all = FALSE);
     // Exact substring replace; non-overlapping occurrences from the start,
     // inserted text is never searched again. wholeWord is accepted and
     // ignored (by both replace operations).
-    virtual int FindReplace(const char16_t* find, const char16_t* replacement, BOOL all = FALSE,
+    virtual int FindReplace(const WCHAR* find, const WCHAR* replacement, BOOL all = FALSE,
                             BOOL wholeWord = FALSE);
-    virtual int FindReplaceNoCase(const char16_t* find, const char16_t* replacement,
-                                  BOOL all = FALSE, BOOL wholeWord = FALSE);
+    virtual int FindReplaceNoCase(const WCHAR* find, const WCHAR* replacement, BOOL all = FALSE,
+                                  BOOL wholeWord = FALSE);
     // Last occurrence that begins at or before start (-1: the end); it may
     // run past start but not past the end of the text.
-    virtual int ReverseFind(const char16_t* text, int start = -1, BOOL wholeWord = FALSE);
-    virtual int ReverseFind(char16_t ch);
-    virtual int ReverseFindNoCase(const char16_t* text, int start = -1, BOOL wholeWord = FALSE);
-    virtual int ReverseFindNoCase(char16_t ch, int start = -1, BOOL wholeWord = FALSE);
+    virtual int ReverseFind(const WCHAR* text, int start = -1, BOOL wholeWord = FALSE);
+    virtual int ReverseFind(WCHAR ch);
+    virtual int ReverseFindNoCase(const WCHAR* text, int start = -1, BOOL wholeWord = FALSE);
+    virtual int ReverseFindNoCase(WCHAR ch, int start = -1, BOOL wholeWord = FALSE);
     // 1 + the number of non-overlapping occurrences of the delimiter.
-    virtual int GetFieldCount(char16_t delimiter);
-    virtual int GetFieldCount(const char16_t* delimiter);
+    virtual int GetFieldCount(WCHAR delimiter);
+    virtual int GetFieldCount(const WCHAR* delimiter);
 
     // Operations
     // Field n (from 0) between occurrences of the delimiter; empty when n is
     // negative or beyond the last field.
-    VU_CSearchableString GetField(const char16_t* delimiter, int n) const;
-    VU_CSearchableString GetField(char16_t delimiter, int n) const;
+    VU_CSearchableString GetField(const WCHAR* delimiter, int n) const;
+    VU_CSearchableString GetField(WCHAR delimiter, int n) const;
     // The text between the (n+1)-th `open` and the `close` after it; empty
     // when either is missing or n is negative. Nesting is not recognised.
-    VU_CSearchableString GetDelimitedField(const char16_t* open, const char16_t* close,
-                                           int n) const;
+    VU_CSearchableString GetDelimitedField(const WCHAR* open, const WCHAR* close, int n) const;
 
 protected:
     // index when the length characters at index form a whole word, else -1;
     // a negative index is returned unchanged.
     int CheckForWholeWord(int index, int length) const;
-    int InternalReverseFind(const char16_t* text, int start, BOOL wholeWord, bool noCase);
+    int InternalReverseFind(const WCHAR* text, int start, BOOL wholeWord, bool noCase);
     // True when the dynamic type overrides ReplaceAt, so replace-all has to
     // go through it one replacement at a time.
     bool IsReplaceAtOverridden() const;
@@ -132,10 +131,9 @@ protected:
     CString m_tokenDelimiters;  // characters that separate words
 
 private:
-    int FindExact(const char16_t* text, int start, BOOL wholeWord, bool noCase) const;
-    int ReplaceText(const char16_t* find, const char16_t* replacement, BOOL all, bool noCase);
-    int ReplaceAllInOnePass(const char16_t* find, int length, std::u16string_view replacement,
-                            bool noCase);
-    int RegularExpReplaceAllInOnePass(std::u16string_view replacement);
-    void SetText(std::u16string&& text);
+    int FindExact(const WCHAR* text, int start, BOOL wholeWord, bool noCase) const;
+    int ReplaceText(const WCHAR* find, const WCHAR* replacement, BOOL all, bool noCase);
+    int ReplaceAllInOnePass(const WCHAR* find, int length, vu::StringView replacement, bool noCase);
+    int RegularExpReplaceAllInOnePass(vu::StringView replacement);
+    void SetText(vu::String&& text);
 };

@@ -11,12 +11,12 @@ using Self = VU_CSearchableStringWithSoftLineBreaks;
 
 namespace {
 
-int Length(const char16_t* text) {
-    return text ? static_cast<int>(std::char_traits<char16_t>::length(text)) : 0;
+int Length(const WCHAR* text) {
+    return text ? static_cast<int>(std::char_traits<WCHAR>::length(text)) : 0;
 }
 
-CString OneCharacter(char16_t ch) {
-    const char16_t text[2] = {ch, 0};
+CString OneCharacter(WCHAR ch) {
+    const WCHAR text[2] = {ch, 0};
     return CString(text);
 }
 
@@ -71,12 +71,12 @@ Self::VU_CSearchableStringWithSoftLineBreaks(const CString& text, int selectionS
     ResetSoftLineBreakState(selectionStart, selectionEnd);
 }
 
-Self::VU_CSearchableStringWithSoftLineBreaks(char16_t ch, int repeat)
+Self::VU_CSearchableStringWithSoftLineBreaks(WCHAR ch, int repeat)
     : VU_CSearchableString(ch, repeat) {
     ResetSoftLineBreakState(0, -1);
 }
 
-Self::VU_CSearchableStringWithSoftLineBreaks(const char16_t* text, int length)
+Self::VU_CSearchableStringWithSoftLineBreaks(const WCHAR* text, int length)
     : VU_CSearchableString(text, length) {
     ResetSoftLineBreakState(0, -1);
 }
@@ -86,7 +86,7 @@ Self::VU_CSearchableStringWithSoftLineBreaks(const unsigned char* text)
     ResetSoftLineBreakState(0, -1);
 }
 
-Self::VU_CSearchableStringWithSoftLineBreaks(const char16_t* text) : VU_CSearchableString(text) {
+Self::VU_CSearchableStringWithSoftLineBreaks(const WCHAR* text) : VU_CSearchableString(text) {
     ResetSoftLineBreakState(0, -1);
 }
 
@@ -116,7 +116,7 @@ Self& Self::operator=(const CString& text) {
     return *this;
 }
 
-Self& Self::operator=(const char16_t* text) {
+Self& Self::operator=(const WCHAR* text) {
     VU_CSearchableString::operator=(text);
     ReassignText();
     return *this;
@@ -171,10 +171,9 @@ int Self::LocateAllSoftLineBreaks() {
     if (m_breaksReplaced)
         return static_cast<int>(m_softLineBreaks.GetSize());
     m_softLineBreaks.SetSize(0);
-    const std::u16string_view text = View();
-    const std::u16string_view soft(c_SOFT_LINE_BREAK);
-    for (std::size_t p = text.find(soft); p != std::u16string_view::npos;
-         p = text.find(soft, p + 1))
+    const vu::StringView text = View();
+    const vu::StringView soft(c_SOFT_LINE_BREAK);
+    for (std::size_t p = text.find(soft); p != vu::StringView::npos; p = text.find(soft, p + 1))
         m_softLineBreaks.Add(static_cast<int>(p));
     return static_cast<int>(m_softLineBreaks.GetSize());
 }
@@ -213,8 +212,8 @@ void Self::SubstituteAtBreaks(int breakLength, const CString& text) {
     const INT_PTR count = m_softLineBreaks.GetSize();
     if (count == 0)
         return;
-    const std::u16string_view old = View();
-    std::u16string out;
+    const vu::StringView old = View();
+    vu::String out;
     out.reserve(old.size() + static_cast<std::size_t>(count) * text.GetLength());
     std::size_t copied = 0;
     for (INT_PTR i = 0; i < count; ++i) {
@@ -307,8 +306,8 @@ int Self::ReplaceSelectionWith(const CString& text) {
                                     static_cast<long long>(first), static_cast<long long>(n)));
     if (static_cast<long long>(n) - (end - first) + text.GetLength() > INT_MAX)
         return 0;
-    const std::u16string_view old = View();
-    std::u16string replaced;
+    const vu::StringView old = View();
+    vu::String replaced;
     replaced.reserve(static_cast<std::size_t>(n - (end - first) + text.GetLength()));
     replaced.append(old.substr(0, first)).append(text.View()).append(old.substr(end));
     CString::operator=(CString(std::move(replaced)));
@@ -320,11 +319,11 @@ int Self::ReplaceSelectionWith(const CString& text) {
 
 // ---- Editing --------------------------------------------------------------------
 
-VU_CSearchableString& Self::InsertAt(int index, char16_t ch) {
+VU_CSearchableString& Self::InsertAt(int index, WCHAR ch) {
     return InsertAt(index, OneCharacter(ch).GetString());
 }
 
-VU_CSearchableString& Self::InsertAt(int index, const char16_t* text) {
+VU_CSearchableString& Self::InsertAt(int index, const WCHAR* text) {
     SoftLineBreaksOut out(*this);
     VU_CSearchableString::InsertAt(index, text);
     ReassignText();
@@ -338,7 +337,7 @@ VU_CSearchableString& Self::DeleteAt(int index, int count) {
     return *this;
 }
 
-VU_CSearchableString& Self::ReplaceAt(int index, int count, const char16_t* text) {
+VU_CSearchableString& Self::ReplaceAt(int index, int count, const WCHAR* text) {
     SoftLineBreaksOut out(*this);
     VU_CSearchableString::ReplaceAt(index, count, text);
     ReassignText();
@@ -349,7 +348,7 @@ VU_CSearchableString& Self::ReplaceAt(int index, int count, const char16_t* text
 
 int Self::FindTextW(const CString& text, BOOL noCase, int start, BOOL wholeWord, BOOL forward) {
     SoftLineBreaksOut out(*this);
-    const char16_t* s = text.GetString();
+    const WCHAR* s = text.GetString();
     int found;
     if (forward)
         found = noCase ? VU_CSearchableString::FindNoCase(s, start, wholeWord)
@@ -364,7 +363,7 @@ int Self::FindTextW(const CString& text, BOOL noCase, int start, BOOL wholeWord,
     return found;
 }
 
-int Self::FindN(char16_t ch, int from, int to, BOOL wholeWord) {
+int Self::FindN(WCHAR ch, int from, int to, BOOL wholeWord) {
     const int found = VU_CSearchableString::FindN(ch, from, to, wholeWord);
     if (found >= 0) {
         SetSelection(found, found + 1);
@@ -374,39 +373,39 @@ int Self::FindN(char16_t ch, int from, int to, BOOL wholeWord) {
     return GetLength();
 }
 
-int Self::Find(const char16_t* text, int start, BOOL wholeWord) {
+int Self::Find(const WCHAR* text, int start, BOOL wholeWord) {
     return FindTextW(text, FALSE, start, wholeWord, TRUE);
 }
 
-int Self::Find(char16_t ch, int start, BOOL wholeWord) {
+int Self::Find(WCHAR ch, int start, BOOL wholeWord) {
     return FindTextW(OneCharacter(ch), FALSE, start, wholeWord, TRUE);
 }
 
-int Self::FindNoCase(const char16_t* text, int start, BOOL wholeWord) {
+int Self::FindNoCase(const WCHAR* text, int start, BOOL wholeWord) {
     return FindTextW(text, TRUE, start, wholeWord, TRUE);
 }
 
-int Self::FindNoCase(char16_t ch, int start, BOOL wholeWord) {
+int Self::FindNoCase(WCHAR ch, int start, BOOL wholeWord) {
     return FindTextW(OneCharacter(ch), TRUE, start, wholeWord, TRUE);
 }
 
-int Self::ReverseFind(const char16_t* text, int start, BOOL wholeWord) {
+int Self::ReverseFind(const WCHAR* text, int start, BOOL wholeWord) {
     return FindTextW(text, FALSE, start, wholeWord, FALSE);
 }
 
-int Self::ReverseFind(char16_t ch) {
+int Self::ReverseFind(WCHAR ch) {
     return FindTextW(OneCharacter(ch), FALSE, -1, FALSE, FALSE);
 }
 
-int Self::ReverseFindNoCase(const char16_t* text, int start, BOOL wholeWord) {
+int Self::ReverseFindNoCase(const WCHAR* text, int start, BOOL wholeWord) {
     return FindTextW(text, TRUE, start, wholeWord, FALSE);
 }
 
-int Self::ReverseFindNoCase(char16_t ch, int start, BOOL wholeWord) {
+int Self::ReverseFindNoCase(WCHAR ch, int start, BOOL wholeWord) {
     return FindTextW(OneCharacter(ch), TRUE, start, wholeWord, FALSE);
 }
 
-int Self::FindRegularExp(const char16_t* pattern, int start) {
+int Self::FindRegularExp(const WCHAR* pattern, int start) {
     {
         SoftLineBreaksOut out(*this);
         const int found = VU_CSearchableString::FindRegularExp(pattern, start);
@@ -432,7 +431,7 @@ template <class Operation> int Self::ReplaceAllInOnePass(Operation replace) {
     return count;
 }
 
-int Self::FindReplaceRegularExp(const char16_t* pattern, const char16_t* replacement, BOOL all) {
+int Self::FindReplaceRegularExp(const WCHAR* pattern, const WCHAR* replacement, BOOL all) {
     SoftLineBreaksOut out(*this);
     const int count = all ? ReplaceAllInOnePass([&](VU_CSearchableString& plain) {
         return plain.FindReplaceRegularExp(pattern, replacement, all);
@@ -442,7 +441,7 @@ int Self::FindReplaceRegularExp(const char16_t* pattern, const char16_t* replace
     return count;
 }
 
-int Self::FindReplace(const char16_t* find, const char16_t* replacement, BOOL all, BOOL wholeWord) {
+int Self::FindReplace(const WCHAR* find, const WCHAR* replacement, BOOL all, BOOL wholeWord) {
     SoftLineBreaksOut out(*this);
     if (all) {
         const int count = ReplaceAllInOnePass([&](VU_CSearchableString& plain) {
@@ -456,8 +455,7 @@ int Self::FindReplace(const char16_t* find, const char16_t* replacement, BOOL al
     return ReplaceSelectionWith(replacement);
 }
 
-int Self::FindReplaceNoCase(const char16_t* find, const char16_t* replacement, BOOL all,
-                            BOOL wholeWord) {
+int Self::FindReplaceNoCase(const WCHAR* find, const WCHAR* replacement, BOOL all, BOOL wholeWord) {
     SoftLineBreaksOut out(*this);
     if (all) {
         const int count = ReplaceAllInOnePass([&](VU_CSearchableString& plain) {
@@ -473,25 +471,25 @@ int Self::FindReplaceNoCase(const char16_t* find, const char16_t* replacement, B
 
 // ---- Fields ------------------------------------------------------------------------
 
-int Self::GetFieldCount(char16_t delimiter) {
+int Self::GetFieldCount(WCHAR delimiter) {
     return GetFieldCount(OneCharacter(delimiter).GetString());
 }
 
-int Self::GetFieldCount(const char16_t* delimiter) {
+int Self::GetFieldCount(const WCHAR* delimiter) {
     VU_CSearchableString plain(TextWithoutSoftLineBreaks());
     return plain.GetFieldCount(delimiter);
 }
 
-Self Self::GetField(const char16_t* delimiter, int n) const {
+Self Self::GetField(const WCHAR* delimiter, int n) const {
     const VU_CSearchableString plain(TextWithoutSoftLineBreaks());
     return Self(static_cast<const CString&>(plain.GetField(delimiter, n)));
 }
 
-Self Self::GetField(char16_t delimiter, int n) const {
+Self Self::GetField(WCHAR delimiter, int n) const {
     return GetField(OneCharacter(delimiter).GetString(), n);
 }
 
-Self Self::GetDelimitedField(const char16_t* open, const char16_t* close, int n) const {
+Self Self::GetDelimitedField(const WCHAR* open, const WCHAR* close, int n) const {
     const VU_CSearchableString plain(TextWithoutSoftLineBreaks());
     return Self(static_cast<const CString&>(plain.GetDelimitedField(open, close, n)));
 }

@@ -29,8 +29,8 @@
 
 class VU_CSearchableStringWithSoftLineBreaks : public VU_CSearchableString {
 public:
-    static constexpr char16_t c_SOFT_LINE_BREAK[] = u"\r\r\n";
-    static constexpr char16_t c_HARD_LINE_BREAK[] = u"\r\n";
+    static constexpr WCHAR c_SOFT_LINE_BREAK[] = VU_T("\r\r\n");
+    static constexpr WCHAR c_HARD_LINE_BREAK[] = VU_T("\r\n");
 
     // Construction. The default object has no selection and no replacement;
     // every other constructor sets the selection to (0, -1) and the
@@ -39,10 +39,10 @@ public:
     VU_CSearchableStringWithSoftLineBreaks(const CString& text);
     VU_CSearchableStringWithSoftLineBreaks(const CString& text, int selectionStart,
                                            int selectionEnd);
-    VU_CSearchableStringWithSoftLineBreaks(char16_t ch, int repeat);
-    VU_CSearchableStringWithSoftLineBreaks(const char16_t* text, int length);
+    VU_CSearchableStringWithSoftLineBreaks(WCHAR ch, int repeat);
+    VU_CSearchableStringWithSoftLineBreaks(const WCHAR* text, int length);
     VU_CSearchableStringWithSoftLineBreaks(const unsigned char* text);
-    VU_CSearchableStringWithSoftLineBreaks(const char16_t* text);
+    VU_CSearchableStringWithSoftLineBreaks(const WCHAR* text);
     VU_CSearchableStringWithSoftLineBreaks(const char* text);
     VU_CSearchableStringWithSoftLineBreaks(const VU_CSearchableStringWithSoftLineBreaks& other);
 
@@ -53,7 +53,7 @@ public:
     // Replace the text, reset the selection to (0, -1) and locate the soft
     // breaks in the new text.
     VU_CSearchableStringWithSoftLineBreaks& operator=(const CString& text);
-    VU_CSearchableStringWithSoftLineBreaks& operator=(const char16_t* text);
+    VU_CSearchableStringWithSoftLineBreaks& operator=(const WCHAR* text);
     VU_CSearchableStringWithSoftLineBreaks& operator=(const char* text);
 
     // Attributes
@@ -79,42 +79,42 @@ public:
     int ReplaceSelectionWith(const CString& text);
 
     // Overridables: the base operations on the text without soft breaks.
-    VU_CSearchableString& InsertAt(int index, char16_t ch) override;
-    VU_CSearchableString& InsertAt(int index, const char16_t* text) override;
+    VU_CSearchableString& InsertAt(int index, WCHAR ch) override;
+    VU_CSearchableString& InsertAt(int index, const WCHAR* text) override;
     VU_CSearchableString& DeleteAt(int index, int count) override;
-    VU_CSearchableString& ReplaceAt(int index, int count, const char16_t* text) override;
+    VU_CSearchableString& ReplaceAt(int index, int count, const WCHAR* text) override;
     // Runs on the text as it stands (soft breaks included); not found gives
     // the text length, and the selection (length, length).
-    int FindN(char16_t ch, int from, int to, BOOL wholeWord = FALSE) override;
-    int Find(const char16_t* text, int start = 0, BOOL wholeWord = FALSE) override;
-    int Find(char16_t ch, int start = 0, BOOL wholeWord = FALSE) override;
-    int FindNoCase(const char16_t* text, int start = 0, BOOL wholeWord = FALSE) override;
-    int FindNoCase(char16_t ch, int start = 0, BOOL wholeWord = FALSE) override;
+    int FindN(WCHAR ch, int from, int to, BOOL wholeWord = FALSE) override;
+    int Find(const WCHAR* text, int start = 0, BOOL wholeWord = FALSE) override;
+    int Find(WCHAR ch, int start = 0, BOOL wholeWord = FALSE) override;
+    int FindNoCase(const WCHAR* text, int start = 0, BOOL wholeWord = FALSE) override;
+    int FindNoCase(WCHAR ch, int start = 0, BOOL wholeWord = FALSE) override;
     // Selects (match, match + pattern length - 1), or (length, length) when
     // nothing is found, and returns the selection start.
-    int FindRegularExp(const char16_t* pattern, int start = 0) override;
+    int FindRegularExp(const WCHAR* pattern, int start = 0) override;
     // Returns the number of replacements; the selection ends at the end.
-    int FindReplaceRegularExp(const char16_t* pattern, const char16_t* replacement,
+    int FindReplaceRegularExp(const WCHAR* pattern, const WCHAR* replacement,
                               BOOL all = FALSE) override;
     // With `all` the base replace; without it the first (whole-word when
     // asked) case-sensitive match is selected and replaced through
     // ReplaceSelectionWith, together with the character after it.
-    int FindReplace(const char16_t* find, const char16_t* replacement, BOOL all = FALSE,
+    int FindReplace(const WCHAR* find, const WCHAR* replacement, BOOL all = FALSE,
                     BOOL wholeWord = FALSE) override;
-    int FindReplaceNoCase(const char16_t* find, const char16_t* replacement, BOOL all = FALSE,
+    int FindReplaceNoCase(const WCHAR* find, const WCHAR* replacement, BOOL all = FALSE,
                           BOOL wholeWord = FALSE) override;
-    int ReverseFind(const char16_t* text, int start = -1, BOOL wholeWord = FALSE) override;
-    int ReverseFind(char16_t ch) override;
-    int ReverseFindNoCase(const char16_t* text, int start = -1, BOOL wholeWord = FALSE) override;
-    int ReverseFindNoCase(char16_t ch, int start = -1, BOOL wholeWord = FALSE) override;
-    int GetFieldCount(char16_t delimiter) override;
-    int GetFieldCount(const char16_t* delimiter) override;
+    int ReverseFind(const WCHAR* text, int start = -1, BOOL wholeWord = FALSE) override;
+    int ReverseFind(WCHAR ch) override;
+    int ReverseFindNoCase(const WCHAR* text, int start = -1, BOOL wholeWord = FALSE) override;
+    int ReverseFindNoCase(WCHAR ch, int start = -1, BOOL wholeWord = FALSE) override;
+    int GetFieldCount(WCHAR delimiter) override;
+    int GetFieldCount(const WCHAR* delimiter) override;
 
     // Fields of the text without soft breaks.
-    VU_CSearchableStringWithSoftLineBreaks GetField(const char16_t* delimiter, int n) const;
-    VU_CSearchableStringWithSoftLineBreaks GetField(char16_t delimiter, int n) const;
-    VU_CSearchableStringWithSoftLineBreaks GetDelimitedField(const char16_t* open,
-                                                             const char16_t* close, int n) const;
+    VU_CSearchableStringWithSoftLineBreaks GetField(const WCHAR* delimiter, int n) const;
+    VU_CSearchableStringWithSoftLineBreaks GetField(WCHAR delimiter, int n) const;
+    VU_CSearchableStringWithSoftLineBreaks GetDelimitedField(const WCHAR* open, const WCHAR* close,
+                                                             int n) const;
 
 protected:
     // Refreshes the break positions from the text and returns their number;

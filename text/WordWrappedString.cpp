@@ -14,9 +14,9 @@ struct Token {
     TokenKind kind;
 };
 
-bool IsBreakingSpace(char16_t c) {
+bool IsBreakingSpace(WCHAR c) {
     if (c < 0x80)
-        return c == u' ' || (c >= 0x09 && c <= 0x0D);
+        return c == VU_T(' ') || (c >= 0x09 && c <= 0x0D);
     switch (c) {
     case 0x0085:
     case 0x1680:
@@ -31,20 +31,20 @@ bool IsBreakingSpace(char16_t c) {
 }
 
 // The token that starts at pos (pos < n).
-Token NextToken(const char16_t* s, int n, int pos) {
-    const char16_t c = s[pos];
-    if (c == u'\r' && pos + 1 < n && s[pos + 1] == u'\n')
+Token NextToken(const WCHAR* s, int n, int pos) {
+    const WCHAR c = s[pos];
+    if (c == VU_T('\r') && pos + 1 < n && s[pos + 1] == VU_T('\n'))
         return {2, TokenKind::HardBreak};
-    if (c == u' ')
+    if (c == VU_T(' '))
         return {1, TokenKind::Space};
-    if (c == u'\t')
+    if (c == VU_T('\t'))
         return {1, TokenKind::Tab};
     if (IsBreakingSpace(c))
         return {1, TokenKind::OtherSpace};
     int end = pos + 1;
     // Printable ASCII is the common case: test it before the full class.
     while (end < n) {
-        const char16_t d = s[end];
+        const WCHAR d = s[end];
         if (d > 0x20 && d < 0x80) {
             ++end;
             continue;
@@ -56,9 +56,9 @@ Token NextToken(const char16_t* s, int n, int pos) {
     return {end - pos, TokenKind::Word};
 }
 
-const char16_t kInvalidLine[] = u"INVALID_LINE_NUMBER";
-const char16_t kHardBreak[] = u"\r\n";
-const char16_t kSoftBreak[] = u"\r\r\n";
+const WCHAR kInvalidLine[] = VU_T("INVALID_LINE_NUMBER");
+const WCHAR kHardBreak[] = VU_T("\r\n");
+const WCHAR kSoftBreak[] = VU_T("\r\r\n");
 
 } // namespace
 
@@ -78,7 +78,7 @@ int VU_CWordWrappedString::NormalizedLength(int lineLength) {
 CString VU_CWordWrappedString::GetLine(int n) const {
     if (n < 0 || n >= GetNumLines())
         return CString(kInvalidLine);
-    std::u16string out;
+    vu::String out;
     AppendLine(out, m_lines[n]);
     return CString(std::move(out));
 }
@@ -86,22 +86,22 @@ CString VU_CWordWrappedString::GetLine(int n) const {
 CString VU_CWordWrappedString::GetFullString(bool wrapped, bool hardBreaks) const {
     if (!wrapped)
         return m_text;
-    const std::u16string_view brk = hardBreaks ? kHardBreak : kSoftBreak;
+    const vu::StringView brk = hardBreaks ? kHardBreak : kSoftBreak;
     size_t total = 0;
     for (const Line& line : m_lines)
         total += static_cast<size_t>(line.indent) + line.length + brk.size();
-    std::u16string out;
+    vu::String out;
     out.reserve(total);
     for (size_t i = 0; i < m_lines.size(); ++i) {
-        if (i > 0 && !std::u16string_view(out).ends_with(kHardBreak))
+        if (i > 0 && !vu::StringView(out).ends_with(kHardBreak))
             out += brk;
         AppendLine(out, m_lines[i]);
     }
     return CString(std::move(out));
 }
 
-void VU_CWordWrappedString::AppendLine(std::u16string& out, const Line& line) const {
-    out.append(static_cast<size_t>(line.indent), u' ');
+void VU_CWordWrappedString::AppendLine(vu::String& out, const Line& line) const {
+    out.append(static_cast<size_t>(line.indent), VU_T(' '));
     out.append(m_text.GetString() + line.start, static_cast<size_t>(line.length));
 }
 
@@ -143,7 +143,7 @@ void VU_CWordWrappedString::Clear() {
 }
 
 void VU_CWordWrappedString::Tokenize(CStringArray& tokens) const {
-    const char16_t* s = m_text.GetString();
+    const WCHAR* s = m_text.GetString();
     const int n = m_text.GetLength();
     for (int pos = 0; pos < n;) {
         const Token t = NextToken(s, n, pos);
@@ -158,7 +158,7 @@ void VU_CWordWrappedString::Tokenize(CStringArray& tokens) const {
 // character).
 void VU_CWordWrappedString::Parse() {
     Clear();
-    const char16_t* s = m_text.GetString();
+    const WCHAR* s = m_text.GetString();
     const int n = m_text.GetLength();
     // Lengths below 1 would never let a token fit; wrap them as 1 so that the
     // cutting of long words still makes progress.

@@ -64,7 +64,7 @@ private:
     };
 
     static int NormalizedLength(int lineLength);
-    void AppendLine(std::u16string& out, const Line& line) const;
+    void AppendLine(vu::String& out, const Line& line) const;
 
     int m_maxLineLength = cNO_LINE_LIMIT;
     std::vector<Line> m_lines;

@@ -9,29 +9,30 @@
 
 namespace {
 
-const std::u16string_view kDeclaration =
-    u"<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"yes\"?>";
+const vu::StringView kDeclaration =
+    VU_T("<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"yes\"?>");
 
 // Characters that need an entity all lie below 64: one bit each.
-constexpr unsigned long long kEscapeMask =
-    (1ULL << u'&') | (1ULL << u'<') | (1ULL << u'>') | (1ULL << u'\'') | (1ULL << u'"');
+constexpr unsigned long long kEscapeMask = (1ULL << VU_T('&')) | (1ULL << VU_T('<')) |
+                                           (1ULL << VU_T('>')) | (1ULL << VU_T('\'')) |
+                                           (1ULL << VU_T('"'));
 
-bool NeedsEscape(char16_t c) {
+bool NeedsEscape(WCHAR c) {
     return c < 64 && ((kEscapeMask >> c) & 1);
 }
 
-std::u16string_view EntityFor(char16_t c) {
+vu::StringView EntityFor(WCHAR c) {
     switch (c) {
-    case u'&':
-        return u"&amp;";
-    case u'<':
-        return u"&lt;";
-    case u'>':
-        return u"&gt;";
-    case u'\'':
-        return u"&apos;";
+    case VU_T('&'):
+        return VU_T("&amp;");
+    case VU_T('<'):
+        return VU_T("&lt;");
+    case VU_T('>'):
+        return VU_T("&gt;");
+    case VU_T('\''):
+        return VU_T("&apos;");
     default:
-        return u"&quot;";
+        return VU_T("&quot;");
     }
 }
 
@@ -46,18 +47,18 @@ struct NameTailTable {
 };
 constexpr NameTailTable kNameTail;
 
-void Copy(char16_t* to, std::u16string_view text) {
+void Copy(WCHAR* to, vu::StringView text) {
     if (!text.empty())
-        std::memcpy(to, text.data(), text.size() * sizeof(char16_t));
+        std::memcpy(to, text.data(), text.size() * sizeof(WCHAR));
 }
 
 // Appends to a standard string the way the output buffer is appended to.
 struct StringSink {
-    std::u16string& text;
-    void Append(std::u16string_view more) { text.append(more); }
+    vu::String& text;
+    void Append(vu::StringView more) { text.append(more); }
 };
 
-template <typename Number> std::u16string_view FormatNumber(char16_t (&out)[24], Number value) {
+template <typename Number> vu::StringView FormatNumber(WCHAR (&out)[24], Number value) {
     char digits[24];
     const char* end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     std::copy(static_cast<const char*>(digits), end, out);
@@ -88,16 +89,16 @@ VU_CXmlWriter::Buffer::~Buffer() {
     std::free(m_data);
 }
 
-void VU_CXmlWriter::Buffer::Append(std::u16string_view text) {
+void VU_CXmlWriter::Buffer::Append(vu::StringView text) {
     Copy(Extend(text.size()), text);
 }
 
 void VU_CXmlWriter::Buffer::Grow(size_t n) {
     const size_t capacity = std::max({m_size + n, 2 * m_capacity, size_t{256}});
-    void* grown = std::realloc(m_data, capacity * sizeof(char16_t));
+    void* grown = std::realloc(m_data, capacity * sizeof(WCHAR));
     if (!grown)
         throw std::bad_alloc();
-    m_data = static_cast<char16_t*>(grown);
+    m_data = static_cast<WCHAR*>(grown);
     m_capacity = capacity;
 }
 
@@ -117,15 +118,15 @@ bool VU_CXmlWriter::Close() {
 }
 
 AF_GString VU_CXmlWriter::ToString() const {
-    return AF_GString(std::u16string(m_output.View()));
+    return AF_GString(vu::String(m_output.View()));
 }
 
 bool VU_CXmlWriter::WriteStartElement(const AF_GString& name) {
     if (name.empty() || !ValidateName(name))
         return false;
     CloseOpenedElement();
-    char16_t* out = m_output.Extend(1 + name.size());
-    out[0] = u'<';
+    WCHAR* out = m_output.Extend(1 + name.size());
+    out[0] = VU_T('<');
     Copy(out + 1, name);
     m_elements.push_back({m_output.View().size() - name.size(), name.size()});
     m_startTagOpen = true;
@@ -134,25 +135,25 @@ bool VU_CXmlWriter::WriteStartElement(const AF_GString& name) {
 
 bool VU_CXmlWriter::WriteElementValue(bool value) {
     CloseOpenedElement();
-    m_output.Append(value ? u"true" : u"false");
+    m_output.Append(value ? VU_T("true") : VU_T("false"));
     return true;
 }
 
 bool VU_CXmlWriter::WriteElementValue(unsigned long value) {
     CloseOpenedElement();
-    char16_t text[24];
+    WCHAR text[24];
     m_output.Append(FormatNumber(text, value));
     return true;
 }
 
 bool VU_CXmlWriter::WriteElementValue(long value) {
     CloseOpenedElement();
-    char16_t text[24];
+    WCHAR text[24];
     m_output.Append(FormatNumber(text, value));
     return true;
 }
 
-bool VU_CXmlWriter::WriteElementValue(const char16_t* text) {
+bool VU_CXmlWriter::WriteElementValue(const WCHAR* text) {
     CloseOpenedElement();
     if (text)
         m_output.Append(text);
@@ -183,26 +184,26 @@ bool VU_CXmlWriter::WriteAttributeString(const AF_GString* name, const AF_GStrin
     const bool lineEnd = m_attributeCount < cMAX_ATTRIBUTES_PER_LINE;
     const size_t nameOffset = m_output.View().size() + 1;
     // ' ' name '="' value '=' and perhaps a line feed
-    char16_t* out = m_output.Extend(name->size() + value->size() + 4 + (lineEnd ? 1 : 0));
-    *out++ = u' ';
+    WCHAR* out = m_output.Extend(name->size() + value->size() + 4 + (lineEnd ? 1 : 0));
+    *out++ = VU_T(' ');
     Copy(out, *name);
     out += name->size();
-    *out++ = u'=';
-    *out++ = u'"';
+    *out++ = VU_T('=');
+    *out++ = VU_T('"');
     Copy(out, *value);
     out += value->size();
-    *out++ = u'=';
+    *out++ = VU_T('=');
     if (lineEnd)
-        *out = u'\n';
+        *out = VU_T('\n');
     RememberAttribute({nameOffset, name->size()});
     ++m_attributeCount;
     return true;
 }
 
 bool VU_CXmlWriter::WriteCData(const AF_GString& text) {
-    m_output.Append(u"<![CDATA[");
+    m_output.Append(VU_T("<![CDATA["));
     m_output.Append(text);
-    m_output.Append(u"]]>");
+    m_output.Append(VU_T("]]>"));
     return true;
 }
 
@@ -213,9 +214,9 @@ bool VU_CXmlWriter::WriteRaw(const AF_GString& text) {
 
 bool VU_CXmlWriter::WriteComment(const AF_GString& text) {
     CloseOpenedElement();
-    m_output.Append(u"<!-- ");
+    m_output.Append(VU_T("<!-- "));
     m_output.Append(text);
-    m_output.Append(u" -->");
+    m_output.Append(VU_T(" -->"));
     return true;
 }
 
@@ -227,13 +228,14 @@ bool VU_CXmlWriter::WriteXMLDeclaration() {
 }
 
 AF_GString VU_CXmlWriter::ToStringFormatted() const {
-    const std::u16string_view text = m_output.View();
+    const vu::StringView text = m_output.View();
     AF_GString out;
-    out.reserve(text.size() + static_cast<size_t>(std::count(text.begin(), text.end(), u'>')));
+    out.reserve(text.size() + static_cast<size_t>(std::count(text.begin(), text.end(), VU_T('>'))));
     size_t runStart = 0;
-    for (size_t i = text.find(u'>'); i != std::u16string_view::npos; i = text.find(u'>', i + 1)) {
+    for (size_t i = text.find(VU_T('>')); i != vu::StringView::npos;
+         i = text.find(VU_T('>'), i + 1)) {
         out.append(text.substr(runStart, i + 1 - runStart));
-        out.push_back(u'\n');
+        out.push_back(VU_T('\n'));
         runStart = i + 1;
     }
     out.append(text.substr(runStart));
@@ -242,7 +244,7 @@ AF_GString VU_CXmlWriter::ToStringFormatted() const {
 
 bool VU_CXmlWriter::CloseOpenedElement() {
     if (m_startTagOpen)
-        *m_output.Extend(1) = u'>';
+        *m_output.Extend(1) = VU_T('>');
     m_attributeCount = 0;
     m_startTagOpen = false;
     ForgetAttributes();
@@ -254,11 +256,11 @@ bool VU_CXmlWriter::CloseOpenedElement() {
 AF_GString VU_CXmlWriter::TranslateEntities(AF_GString* text) const {
     if (!text)
         return AF_GString();
-    std::u16string translated;
+    vu::String translated;
     translated.reserve(text->size());
     StringSink sink{translated};
     AppendEscaped(sink, *text);
-    static_cast<std::u16string&>(*text) = std::move(translated);
+    static_cast<vu::String&>(*text) = std::move(translated);
     return *text;
 }
 
@@ -267,14 +269,14 @@ bool VU_CXmlWriter::ValidateName(const AF_GString& name) const {
 }
 
 bool VU_CXmlWriter::ValidateAttributeString(const AF_GString& value) const {
-    return value.find(u'<') == std::u16string::npos;
+    return value.find(VU_T('<')) == vu::String::npos;
 }
 
 // Two character classes apply: from the second character on, letters, '_'
 // and ':'; from the third on, also digits, '.' and '-'. The first class is
 // the narrower and covers every position the second does, so digits, '.' and
 // '-' are accepted only as the first character, which is not checked.
-bool VU_CXmlWriter::IsValidName(std::u16string_view name) {
+bool VU_CXmlWriter::IsValidName(vu::StringView name) {
     for (size_t i = 1; i < name.size(); ++i) {
         if (name[i] >= 128 || !kNameTail.allowed[name[i]])
             return false;
@@ -283,10 +285,10 @@ bool VU_CXmlWriter::IsValidName(std::u16string_view name) {
 }
 
 // One scan; the runs between escaped characters are copied whole.
-template <typename Sink> void VU_CXmlWriter::AppendEscaped(Sink& out, std::u16string_view text) {
-    const char16_t* run = text.data();
-    const char16_t* const end = run + text.size();
-    for (const char16_t* p = run; p != end; ++p) {
+template <typename Sink> void VU_CXmlWriter::AppendEscaped(Sink& out, vu::StringView text) {
+    const WCHAR* run = text.data();
+    const WCHAR* const end = run + text.size();
+    for (const WCHAR* p = run; p != end; ++p) {
         if (!NeedsEscape(*p))
             continue;
         out.Append({run, static_cast<size_t>(p - run)});
@@ -299,14 +301,14 @@ template <typename Sink> void VU_CXmlWriter::AppendEscaped(Sink& out, std::u16st
 // "</" name ">", the name copied from where its start tag wrote it. The room
 // is made first, so the source does not move while it is copied.
 void VU_CXmlWriter::WriteEndTag(Span name) {
-    char16_t* out = m_output.Extend(name.length + 3);
-    out[0] = u'<';
-    out[1] = u'/';
+    WCHAR* out = m_output.Extend(name.length + 3);
+    out[0] = VU_T('<');
+    out[1] = VU_T('/');
     Copy(out + 2, Text(name));
-    out[2 + name.length] = u'>';
+    out[2 + name.length] = VU_T('>');
 }
 
-bool VU_CXmlWriter::HasAttribute(std::u16string_view name) const {
+bool VU_CXmlWriter::HasAttribute(vu::StringView name) const {
     if (!m_attributeIndex.empty())
         return m_attributeIndex.find(name) != m_attributeIndex.end();
     return std::any_of(m_attributes.begin(), m_attributes.end(),

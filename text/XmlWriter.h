@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/GString.h"
+#include "framework/Char.h"
 
 #include <cstddef>
 #include <set>
@@ -38,7 +39,7 @@ public:
     virtual bool WriteElementValue(unsigned long value);
     virtual bool WriteElementValue(long value);
     // Written unchanged, without entity translation; null writes nothing.
-    virtual bool WriteElementValue(const char16_t* text);
+    virtual bool WriteElementValue(const WCHAR* text);
     // Written with & < > ' " translated to entities.
     virtual bool WriteElementString(const AF_GString& text);
     // Refused when no element is open.
@@ -63,7 +64,7 @@ public:
 
     // Attributes
     // The output so far, without a copy; valid until the next write.
-    std::u16string_view GetOutput() const { return m_output.View(); }
+    vu::StringView GetOutput() const { return m_output.View(); }
     int GetOpenElementCount() const { return static_cast<int>(m_elements.size()); }
     bool IsStartTagOpen() const { return m_startTagOpen; }
 
@@ -91,15 +92,15 @@ private:
         }
         ~Buffer();
         // Room for n more characters at the end, counted as written.
-        char16_t* Extend(size_t n) {
+        WCHAR* Extend(size_t n) {
             if (n > m_capacity - m_size)
                 Grow(n);
-            char16_t* end = m_data + m_size;
+            WCHAR* end = m_data + m_size;
             m_size += n;
             return end;
         }
-        void Append(std::u16string_view text);
-        std::u16string_view View() const { return {m_data, m_size}; }
+        void Append(vu::StringView text);
+        vu::StringView View() const { return {m_data, m_size}; }
 
     private:
         void Grow(size_t n);
@@ -108,7 +109,7 @@ private:
             std::swap(m_size, other.m_size);
             std::swap(m_capacity, other.m_capacity);
         }
-        char16_t* m_data = nullptr;
+        WCHAR* m_data = nullptr;
         size_t m_size = 0;
         size_t m_capacity = 0;
     };
@@ -120,13 +121,13 @@ private:
         size_t length;
     };
 
-    static bool IsValidName(std::u16string_view name);
-    template <typename Sink> static void AppendEscaped(Sink& out, std::u16string_view text);
-    std::u16string_view Text(Span span) const {
+    static bool IsValidName(vu::StringView name);
+    template <typename Sink> static void AppendEscaped(Sink& out, vu::StringView text);
+    vu::StringView Text(Span span) const {
         return m_output.View().substr(span.offset, span.length);
     }
     void WriteEndTag(Span name);
-    bool HasAttribute(std::u16string_view name) const;
+    bool HasAttribute(vu::StringView name) const;
     void RememberAttribute(Span span);
     void ForgetAttributes();
 
@@ -136,5 +137,5 @@ private:
     std::vector<Span> m_elements;   // open elements, innermost last
     std::vector<Span> m_attributes; // names on the open start tag
     // Index of the same names, built only when a tag has many attributes.
-    std::set<std::u16string, std::less<>> m_attributeIndex;
+    std::set<vu::String, std::less<>> m_attributeIndex;
 };

@@ -42,15 +42,15 @@ KeyStep StepOverUnselectable(int selection, int count, int step,
     return result;
 }
 
-std::vector<std::u16string_view> SplitColumns(std::u16string_view text) {
-    std::vector<std::u16string_view> parts;
+std::vector<vu::StringView> SplitColumns(vu::StringView text) {
+    std::vector<vu::StringView> parts;
     size_t pos = 0;
     while (pos < text.size()) {
-        const size_t start = text.find_first_not_of(u'\t', pos);
-        if (start == std::u16string_view::npos)
+        const size_t start = text.find_first_not_of(VU_T('\t'), pos);
+        if (start == vu::StringView::npos)
             break;
-        size_t end = text.find(u'\t', start);
-        if (end == std::u16string_view::npos)
+        size_t end = text.find(VU_T('\t'), start);
+        if (end == vu::StringView::npos)
             end = text.size();
         parts.push_back(text.substr(start, end - start));
         pos = end;
@@ -82,26 +82,26 @@ std::vector<int> ColumnStarts(int columns, const std::vector<int>& tabStops, int
     return starts;
 }
 
-std::u16string FitText(std::u16string_view text, int width, const MeasureText& measure) {
+vu::String FitText(vu::StringView text, int width, const MeasureText& measure) {
     if (measure(text) <= width)
-        return std::u16string(text);
-    const std::u16string_view marker(kEllipsis);
+        return vu::String(text);
+    const vu::StringView marker(kEllipsis);
     if (measure(marker) > width)
-        return std::u16string();
+        return vu::String();
     // Longest prefix that fits with the marker: binary search, widths grow
     // with the prefix length.
     size_t low = 0;
     size_t high = text.size();
     while (low < high) {
         const size_t mid = (low + high + 1) / 2;
-        std::u16string candidate(text.substr(0, mid));
+        vu::String candidate(text.substr(0, mid));
         candidate += marker;
         if (measure(candidate) <= width)
             low = mid;
         else
             high = mid - 1;
     }
-    std::u16string fitted(text.substr(0, low));
+    vu::String fitted(text.substr(0, low));
     fitted += marker;
     return fitted;
 }

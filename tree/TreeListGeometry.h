@@ -4,6 +4,7 @@
 // and tree line lie, how the rows move when nodes are added, how the keyboard
 // steps over rows that cannot be selected, how a row scrolls into view, and
 // how tab-separated text is laid out in columns.
+#include "framework/Char.h"
 #include <functional>
 #include <string>
 #include <string_view>
@@ -13,7 +14,7 @@ namespace vu::treelist {
 
 constexpr int kIndent = 16;      // pixels per level
 constexpr int kButtonWidth = 16; // the expand button column
-constexpr char16_t kEllipsis[] = u" ... ";
+constexpr WCHAR kEllipsis[] = VU_T(" ... ");
 
 // ---- Geometry of a row ------------------------------------------------------
 
@@ -77,7 +78,7 @@ KeyStep StepOverUnselectable(int selection, int count, int step,
 
 // Splits at tab characters the way wcstok does: runs of tabs are one
 // delimiter, and leading or trailing tabs give no empty column.
-std::vector<std::u16string_view> SplitColumns(std::u16string_view text);
+std::vector<vu::StringView> SplitColumns(vu::StringView text);
 
 // Left edge of each column, in pixels from the text start: column 0 at 0,
 // column k at tabStops[k-1] average characters; columns beyond the tab stops
@@ -86,12 +87,12 @@ std::vector<std::u16string_view> SplitColumns(std::u16string_view text);
 std::vector<int> ColumnStarts(int columns, const std::vector<int>& tabStops, int avgCharWidth);
 
 // Measures the width in pixels of a piece of text.
-using MeasureText = std::function<int(std::u16string_view)>;
+using MeasureText = std::function<int(vu::StringView)>;
 
 // The text to draw in `width` pixels: the whole text when it fits, otherwise
 // the longest prefix followed by " ... " that fits (possibly only the marker,
 // or nothing when not even the marker fits).
-std::u16string FitText(std::u16string_view text, int width, const MeasureText& measure);
+vu::String FitText(vu::StringView text, int width, const MeasureText& measure);
 
 // Index of the column under x (pixels from the text start), -1 left of column 0.
 int ColumnAt(int x, const std::vector<int>& starts);

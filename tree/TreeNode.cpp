@@ -17,7 +17,7 @@ long g_xmlRowCounter = 0;   // row of the next node written
 long g_xmlSelectedRow = -1; // the control's selection when the dump began
 
 AF_GString ToGString(const CString& text) {
-    return AF_GString(std::u16string(text.GetString(), text.GetLength()));
+    return AF_GString(vu::String(text.GetString(), text.GetLength()));
 }
 
 // Pushes the children of node on a pre-order work stack, first child on top.
@@ -33,8 +33,8 @@ bool EqualPrefixNoCase(const CString& a, const CString& b, int length) {
     const int lb = std::min(b.GetLength(), length);
     if (la != lb)
         return false;
-    const char16_t* pa = a.GetString();
-    const char16_t* pb = b.GetString();
+    const WCHAR* pa = a.GetString();
+    const WCHAR* pb = b.GetString();
     for (int i = 0; i < la; ++i)
         if (pa[i] != pb[i] && vu::ToLower(pa[i]) != vu::ToLower(pb[i]))
             return false;
@@ -178,7 +178,7 @@ int CTreeNode::FindNoCaseChildString(const CString& text, bool matchParents, int
                 if (exactBeforeTab == 0)
                     return node->m_handle;
                 // The name is the text before the first tab; it must equal all of text.
-                const int tab = shown.Find(u'\t');
+                const int tab = shown.Find(VU_T('\t'));
                 const int nameLength = tab < 0 ? shown.GetLength() : tab;
                 if (nameLength == text.GetLength() && EqualPrefixNoCase(text, shown, nameLength))
                     return node->m_handle;
@@ -203,12 +203,12 @@ long CTreeNode::GetXmlRowCounter() {
 
 void CTreeNode::AppendOwnXml(AF_GString& out, long row, bool selected) const {
     // Element names made once: building them per row costs more than writing them.
-    static const AF_GString kNode(u"HbxListNode");
-    static const AF_GString kId(u"id");
-    static const AF_GString kExpanded(u"expanded");
-    static const AF_GString kSelected(u"selected");
-    static const AF_GString kText(u"text");
-    static const AF_GString kParent(u"parent");
+    static const AF_GString kNode(VU_T("HbxListNode"));
+    static const AF_GString kId(VU_T("id"));
+    static const AF_GString kExpanded(VU_T("expanded"));
+    static const AF_GString kSelected(VU_T("selected"));
+    static const AF_GString kText(VU_T("text"));
+    static const AF_GString kParent(VU_T("parent"));
 
     VU_CXmlWriter writer;
     writer.WriteStartElement(kNode);

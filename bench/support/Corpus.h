@@ -6,6 +6,7 @@
 // decoded from UTF-8 and widened to UTF-16, so every run sees the same text.
 
 #include "foundation/Utf8.h"
+#include "framework/Char.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -20,7 +21,7 @@
 namespace vu::bench {
 
 // UTF-8 to UTF-16; malformed bytes become U+FFFD.
-inline std::u16string DecodeUtf8(std::string_view in) {
+inline vu::String DecodeUtf8(std::string_view in) {
     return vu::Utf8ToUtf16(in);
 }
 
@@ -45,8 +46,8 @@ inline std::vector<std::filesystem::path> CorpusFiles() {
 
 // At least `minUnits` units of English text (the documentation repeated if it
 // is shorter). Exits with a message when the package is missing.
-inline std::u16string LoadEnglishCorpus(size_t minUnits = 6'000'000) {
-    std::u16string text;
+inline vu::String LoadEnglishCorpus(size_t minUnits = 6'000'000) {
+    vu::String text;
     const auto files = CorpusFiles();
     for (size_t round = 0; text.size() < minUnits && !files.empty(); ++round) {
         for (const auto& file : files) {
@@ -65,15 +66,15 @@ inline std::u16string LoadEnglishCorpus(size_t minUnits = 6'000'000) {
     text.resize(std::min(text.size(), std::max(minUnits, size_t(1))));
     // The engines under test stop at NUL; the documentation has none, but
     // be sure.
-    std::replace(text.begin(), text.end(), u'\0', u' ');
+    std::replace(text.begin(), text.end(), VU_T('\0'), VU_T(' '));
     return text;
 }
 
 // The first `maxLines` lines of `text`, without their line breaks.
-inline std::vector<std::u16string> SplitLines(std::u16string_view text, size_t maxLines) {
-    std::vector<std::u16string> lines;
+inline std::vector<vu::String> SplitLines(vu::StringView text, size_t maxLines) {
+    std::vector<vu::String> lines;
     while (!text.empty() && lines.size() < maxLines) {
-        const size_t end = std::min(text.find(u'\n'), text.size());
+        const size_t end = std::min(text.find(VU_T('\n')), text.size());
         lines.emplace_back(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
     }

@@ -103,10 +103,10 @@ int main(int argc, char** argv) {
     }
     SendMessageW(tree.m_hWnd, LB_SETITEMHEIGHT, 0, 16);
     int root = -1;
-    tree.AddItem(CString(u"Program Tags"), 0, 1, 1, -1, &root);
+    tree.AddItem(CString(L"Program Tags"), 0, 1, 1, -1, &root);
     for (int i = 0; i < kChildren; ++i) {
-        const std::u16string text =
-            u"Tag_" + std::u16string(1, char16_t(u'A' + i % 26)) + u"\tDINT\tcounter & <limit>";
+        const std::wstring text =
+            L"Tag_" + std::wstring(1, wchar_t(L'A' + i % 26)) + L"\tDINT\tcounter & <limit>";
         tree.AddItem(CString(text.c_str()), 6, 6, static_cast<unsigned long>(i + 2), root);
     }
 

@@ -1,15 +1,13 @@
 #include "foundation/win/DumpFile.h"
 
-#include "framework/win/Wide.h"
-
 CString Vu_CDumpFile::DefaultDumpPath() {
     wchar_t dir[MAX_PATH + 1] = {};
     DWORD length = GetTempPathW(MAX_PATH + 1, dir);
-    CString path(length > 0 && length <= MAX_PATH ? vu::U(dir) : u".\\");
-    if (path.GetLength() > 0 && path[path.GetLength() - 1] != u'\\')
-        path += u'\\';
+    CString path(length > 0 && length <= MAX_PATH ? dir : L".\\");
+    if (path.GetLength() > 0 && path[path.GetLength() - 1] != L'\\')
+        path += L'\\';
     CString name;
-    name.Format(u"VuLib-%u.log", static_cast<unsigned>(GetCurrentProcessId()));
+    name.Format(L"VuLib-%u.log", static_cast<unsigned>(GetCurrentProcessId()));
     return path + name;
 }
 

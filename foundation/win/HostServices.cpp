@@ -1,23 +1,20 @@
 #include "foundation/win/HostServices.h"
 
-#include "framework/win/Wide.h"
-
 namespace {
 
 VU_CHostServices g_defaultServices;
 VU_CHostServices* g_pServices = nullptr;
 
 // Opens (or creates) the section's key of the default profile.
-HKEY OpenSectionKey(const char16_t* lpszSection, bool create, REGSAM access = KEY_READ) {
+HKEY OpenSectionKey(const wchar_t* lpszSection, bool create, REGSAM access = KEY_READ) {
     if (lpszSection == nullptr)
         return nullptr;
-    CString path = VU_CHostServices::GetDefaultProfileKey() + u"\\" + lpszSection;
+    CString path = VU_CHostServices::GetDefaultProfileKey() + L"\\" + lpszSection;
     HKEY hKey = nullptr;
-    LONG status = create
-                      ? RegCreateKeyExW(HKEY_CURRENT_USER, vu::W(path.GetString()), 0, nullptr,
-                                        REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr,
-                                        &hKey, nullptr)
-                      : RegOpenKeyExW(HKEY_CURRENT_USER, vu::W(path.GetString()), 0, access, &hKey);
+    LONG status = create ? RegCreateKeyExW(HKEY_CURRENT_USER, path.GetString(), 0, nullptr,
+                                           REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr,
+                                           &hKey, nullptr)
+                         : RegOpenKeyExW(HKEY_CURRENT_USER, path.GetString(), 0, access, &hKey);
     return status == ERROR_SUCCESS ? hKey : nullptr;
 }
 
@@ -39,14 +36,14 @@ CString VU_CHostServices::GetDefaultProfileKey() {
         if (path[i] == L'\\' || path[i] == L'/')
             name = path + i + 1;
     }
-    CString exeName(vu::U(name));
-    int dot = exeName.ReverseFind(u'.');
+    CString exeName(name);
+    int dot = exeName.ReverseFind(L'.');
     if (dot > 0)
         exeName = exeName.Left(dot);
-    return CString(u"Software\\VuLib\\") + exeName;
+    return CString(L"Software\\VuLib\\") + exeName;
 }
 
-UINT VU_CHostServices::GetProfileInt(const char16_t* lpszSection, const char16_t* lpszEntry,
+UINT VU_CHostServices::GetProfileInt(const wchar_t* lpszSection, const wchar_t* lpszEntry,
                                      int nDefault) {
     HKEY hKey = OpenSectionKey(lpszSection, false);
     if (hKey == nullptr || lpszEntry == nullptr) {
@@ -55,15 +52,15 @@ UINT VU_CHostServices::GetProfileInt(const char16_t* lpszSection, const char16_t
         return static_cast<UINT>(nDefault);
     }
     DWORD type = 0, value = 0, size = sizeof(value);
-    LONG status = RegQueryValueExW(hKey, vu::W(lpszEntry), nullptr, &type,
-                                   reinterpret_cast<BYTE*>(&value), &size);
+    LONG status =
+        RegQueryValueExW(hKey, lpszEntry, nullptr, &type, reinterpret_cast<BYTE*>(&value), &size);
     RegCloseKey(hKey);
     if (status != ERROR_SUCCESS || type != REG_DWORD || size != sizeof(value))
         return static_cast<UINT>(nDefault);
     return value;
 }
 
-BOOL VU_CHostServices::WriteProfileInt(const char16_t* lpszSection, const char16_t* lpszEntry,
+BOOL VU_CHostServices::WriteProfileInt(const wchar_t* lpszSection, const wchar_t* lpszEntry,
                                        int nValue) {
     if (lpszEntry == nullptr)
         return FALSE;
@@ -71,14 +68,14 @@ BOOL VU_CHostServices::WriteProfileInt(const char16_t* lpszSection, const char16
     if (hKey == nullptr)
         return FALSE;
     DWORD value = static_cast<DWORD>(nValue);
-    LONG status = RegSetValueExW(hKey, vu::W(lpszEntry), 0, REG_DWORD,
+    LONG status = RegSetValueExW(hKey, lpszEntry, 0, REG_DWORD,
                                  reinterpret_cast<const BYTE*>(&value), sizeof(value));
     RegCloseKey(hKey);
     return status == ERROR_SUCCESS;
 }
 
-CString VU_CHostServices::GetProfileString(const char16_t* lpszSection, const char16_t* lpszEntry,
-                                           const char16_t* lpszDefault) {
+CString VU_CHostServices::GetProfileString(const wchar_t* lpszSection, const wchar_t* lpszEntry,
+                                           const wchar_t* lpszDefault) {
     CString fallback(lpszDefault);
     HKEY hKey = OpenSectionKey(lpszSection, false);
     if (hKey == nullptr)
@@ -86,33 +83,33 @@ CString VU_CHostServices::GetProfileString(const char16_t* lpszSection, const ch
     DWORD type = 0, size = 0;
     LONG status = lpszEntry == nullptr
                       ? ERROR_INVALID_PARAMETER
-                      : RegQueryValueExW(hKey, vu::W(lpszEntry), nullptr, &type, nullptr, &size);
+                      : RegQueryValueExW(hKey, lpszEntry, nullptr, &type, nullptr, &size);
     if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) {
         RegCloseKey(hKey);
         return fallback;
     }
     CString value;
-    int units = static_cast<int>(size / sizeof(char16_t));
-    char16_t* buffer = value.GetBuffer(units + 1);
-    status = RegQueryValueExW(hKey, vu::W(lpszEntry), nullptr, &type,
-                              reinterpret_cast<BYTE*>(buffer), &size);
+    int units = static_cast<int>(size / sizeof(wchar_t));
+    wchar_t* buffer = value.GetBuffer(units + 1);
+    status =
+        RegQueryValueExW(hKey, lpszEntry, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size);
     RegCloseKey(hKey);
     if (status != ERROR_SUCCESS) {
         value.ReleaseBuffer(0);
         return fallback;
     }
-    buffer[size / sizeof(char16_t)] = 0; // the stored value need not be terminated
+    buffer[size / sizeof(wchar_t)] = 0; // the stored value need not be terminated
     value.ReleaseBuffer(-1);
     return value;
 }
 
-BOOL VU_CHostServices::WriteProfileString(const char16_t* lpszSection, const char16_t* lpszEntry,
-                                          const char16_t* lpszValue) {
+BOOL VU_CHostServices::WriteProfileString(const wchar_t* lpszSection, const wchar_t* lpszEntry,
+                                          const wchar_t* lpszValue) {
     if (lpszSection == nullptr)
         return FALSE;
     if (lpszEntry == nullptr) {
-        CString path = GetDefaultProfileKey() + u"\\" + lpszSection;
-        LONG status = RegDeleteTreeW(HKEY_CURRENT_USER, vu::W(path.GetString()));
+        CString path = GetDefaultProfileKey() + L"\\" + lpszSection;
+        LONG status = RegDeleteTreeW(HKEY_CURRENT_USER, path.GetString());
         return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
     }
     HKEY hKey = OpenSectionKey(lpszSection, lpszValue != nullptr, KEY_READ | KEY_WRITE);
@@ -120,24 +117,24 @@ BOOL VU_CHostServices::WriteProfileString(const char16_t* lpszSection, const cha
         return lpszValue == nullptr; // nothing to remove
     LONG status;
     if (lpszValue == nullptr) {
-        status = RegDeleteValueW(hKey, vu::W(lpszEntry));
+        status = RegDeleteValueW(hKey, lpszEntry);
         if (status == ERROR_FILE_NOT_FOUND)
             status = ERROR_SUCCESS;
     } else {
-        DWORD bytes = static_cast<DWORD>((CString(lpszValue).GetLength() + 1) * sizeof(char16_t));
-        status = RegSetValueExW(hKey, vu::W(lpszEntry), 0, REG_SZ,
+        DWORD bytes = static_cast<DWORD>((CString(lpszValue).GetLength() + 1) * sizeof(wchar_t));
+        status = RegSetValueExW(hKey, lpszEntry, 0, REG_SZ,
                                 reinterpret_cast<const BYTE*>(lpszValue), bytes);
     }
     RegCloseKey(hKey);
     return status == ERROR_SUCCESS;
 }
 
-void VU_CHostServices::LogAuditTrail(DWORD dwAuditType, const char16_t* lpszFunction,
-                                     const char16_t* lpszText) {
+void VU_CHostServices::LogAuditTrail(DWORD dwAuditType, const wchar_t* lpszFunction,
+                                     const wchar_t* lpszText) {
     CString line;
-    line.Format(u"VuLib audit %u: %s: %s\n", static_cast<unsigned>(dwAuditType),
-                lpszFunction != nullptr ? lpszFunction : u"", lpszText != nullptr ? lpszText : u"");
-    OutputDebugStringW(vu::W(line.GetString()));
+    line.Format(L"VuLib audit %u: %s: %s\n", static_cast<unsigned>(dwAuditType),
+                lpszFunction != nullptr ? lpszFunction : L"", lpszText != nullptr ? lpszText : L"");
+    OutputDebugStringW(line.GetString());
 }
 
 BOOL VU_CHostServices::ShowContextHelp(DWORD, HWND) {
@@ -190,6 +187,6 @@ VU_CHostServices* VuSetHostServices(VU_CHostServices* pServices) {
     return previous;
 }
 
-void MDLogAuditTrailMsg(DWORD dwAuditType, const char16_t* lpszFunction, const char16_t* lpszText) {
+void MDLogAuditTrailMsg(DWORD dwAuditType, const wchar_t* lpszFunction, const wchar_t* lpszText) {
     VuGetHostServices()->LogAuditTrail(dwAuditType, lpszFunction, lpszText);
 }

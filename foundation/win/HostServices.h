@@ -29,20 +29,18 @@ public:
 
     // Profile. A missing section or entry gives the default; a value of the
     // wrong type counts as missing.
-    virtual UINT GetProfileInt(const char16_t* lpszSection, const char16_t* lpszEntry,
-                               int nDefault);
-    virtual BOOL WriteProfileInt(const char16_t* lpszSection, const char16_t* lpszEntry,
-                                 int nValue);
-    virtual CString GetProfileString(const char16_t* lpszSection, const char16_t* lpszEntry,
-                                     const char16_t* lpszDefault = nullptr);
+    virtual UINT GetProfileInt(const wchar_t* lpszSection, const wchar_t* lpszEntry, int nDefault);
+    virtual BOOL WriteProfileInt(const wchar_t* lpszSection, const wchar_t* lpszEntry, int nValue);
+    virtual CString GetProfileString(const wchar_t* lpszSection, const wchar_t* lpszEntry,
+                                     const wchar_t* lpszDefault = nullptr);
     // A null entry removes the whole section, a null value removes the entry.
-    virtual BOOL WriteProfileString(const char16_t* lpszSection, const char16_t* lpszEntry,
-                                    const char16_t* lpszValue);
+    virtual BOOL WriteProfileString(const wchar_t* lpszSection, const wchar_t* lpszEntry,
+                                    const wchar_t* lpszValue);
 
     // Audit trail: one entry with its type, the function that wrote it and
     // its text.
-    virtual void LogAuditTrail(DWORD dwAuditType, const char16_t* lpszFunction,
-                               const char16_t* lpszText);
+    virtual void LogAuditTrail(DWORD dwAuditType, const wchar_t* lpszFunction,
+                               const wchar_t* lpszText);
 
     // Context help for a help context id; FALSE if the host shows none.
     virtual BOOL ShowContextHelp(DWORD dwHelpContext, HWND hWndCaller);
@@ -76,4 +74,4 @@ VU_CHostServices* VuGetHostServices();
 VU_CHostServices* VuSetHostServices(VU_CHostServices* pServices);
 
 // Writes an audit-trail entry through the services in use.
-void MDLogAuditTrailMsg(DWORD dwAuditType, const char16_t* lpszFunction, const char16_t* lpszText);
+void MDLogAuditTrailMsg(DWORD dwAuditType, const wchar_t* lpszFunction, const wchar_t* lpszText);

@@ -9,7 +9,7 @@
 #include "framework/win/Wnd.h"
 
 // The function name the pump's audit-trail entries carry.
-const char16_t* const g_szPumpFunctionName = u"VuInternalPumpMessage()";
+const wchar_t* const g_szPumpFunctionName = L"VuInternalPumpMessage()";
 
 namespace {
 
@@ -28,26 +28,26 @@ bool g_hasPrevious = false;
 TracedMessage g_previous{};
 CString g_lastTrace;
 
-const char16_t* KnownMessageName(UINT message) {
+const wchar_t* KnownMessageName(UINT message) {
     switch (message) {
     case 15:
-        return u"WM_PAINT";
+        return L"WM_PAINT";
     case 18:
-        return u"WM_QUIT";
+        return L"WM_QUIT";
     case 160:
-        return u"WM_NCMOUSEMOVE";
+        return L"WM_NCMOUSEMOVE";
     case 275:
-        return u"WM_TIMER";
+        return L"WM_TIMER";
     case 512:
-        return u"WM_MOUSEFIRST or WM_MOUSEMOVE";
+        return L"WM_MOUSEFIRST or WM_MOUSEMOVE";
     case 874:
-        return u"WM_KICKIDLE";
+        return L"WM_KICKIDLE";
     case 1186:
-        return u"CO_NOTIFICATION - WM_USER+128+34 - WM_AF_NOTIF_FIRST+34";
+        return L"CO_NOTIFICATION - WM_USER+128+34 - WM_AF_NOTIF_FIRST+34";
     case 1192:
-        return u"WM_DW_RUNGNOTIFWINDOWMESSAGE - what?";
+        return L"WM_DW_RUNGNOTIFWINDOWMESSAGE - what?";
     default:
-        return u"<unknown>";
+        return L"<unknown>";
     }
 }
 
@@ -60,7 +60,7 @@ unsigned Low32(UINT_PTR value) {
 
 CString VuMessageName(UINT message) {
     CString name;
-    name.Format(u"0x%08x - %s", message, KnownMessageName(message));
+    name.Format(L"0x%08x - %s", message, KnownMessageName(message));
     return name;
 }
 
@@ -75,19 +75,19 @@ CString VuGetLastPumpTrace() {
 CString VuDescribeMessage(const MSG& msg) {
     TracedMessage current{msg.hwnd, msg.message, msg.wParam, msg.lParam,
                           msg.time, msg.pt.x,    msg.pt.y};
-    CString text(u"Unavailable");
+    CString text(L"Unavailable");
     if (CWnd* pWnd = CWnd::FromHandlePermanent(msg.hwnd))
         pWnd->GetWindowText(text);
     if (g_hasPrevious && current == g_previous)
-        return CString(u"same");
+        return CString(L"same");
     g_previous = current;
     g_hasPrevious = true;
 
     CString description;
     description.Format(
-        u"\n\t\tThreadID = 0x%08x\n\t\tText     = %s\n\t\thwnd     = 0x%08x"
-        u"\n\t\tmessage  = %s\n\t\twParam   = 0x%08x\n\t\tlParam   = 0x%08x"
-        u"\n\t\ttime     = 0x%08x\n\t\tpt.x     = 0x%08x\n\t\tpt.y     = 0x%08x\n\t\t",
+        L"\n\t\tThreadID = 0x%08x\n\t\tText     = %s\n\t\thwnd     = 0x%08x"
+        L"\n\t\tmessage  = %s\n\t\twParam   = 0x%08x\n\t\tlParam   = 0x%08x"
+        L"\n\t\ttime     = 0x%08x\n\t\tpt.x     = 0x%08x\n\t\tpt.y     = 0x%08x\n\t\t",
         static_cast<unsigned>(AfxGetThread()->m_nThreadID), text.GetString(),
         Low32(reinterpret_cast<UINT_PTR>(msg.hwnd)), VuMessageName(msg.message).GetString(),
         Low32(msg.wParam), Low32(static_cast<UINT_PTR>(msg.lParam)),
@@ -106,7 +106,7 @@ BOOL VuInternalPumpMessage() {
 
     g_lastTrace = VuDescribeMessage(msg);
 #ifdef VULIB_TRACE_PUMP
-    *VuGetTraceDump() << g_lastTrace << u"\n";
+    *VuGetTraceDump() << g_lastTrace << L"\n";
 #endif
 
     if (msg.message == WM_KICKIDLE)
@@ -115,7 +115,7 @@ BOOL VuInternalPumpMessage() {
         TranslateMessage(&msg);
         if (msg.message == VU_WM_CONTROL_NOTIFICATION) {
             CString text;
-            text.Format(u"Sleep(%d) before Dispatch...",
+            text.Format(L"Sleep(%d) before Dispatch...",
                         static_cast<int>(VU_PUMP_NOTIFICATION_PAUSE_MS));
             MDLogAuditTrailMsg(VU_AUDIT_TYPE_PUMP, g_szPumpFunctionName, text);
             Sleep(VU_PUMP_NOTIFICATION_PAUSE_MS);

@@ -1,8 +1,8 @@
 #include "framework/win/Button.h"
 
-BOOL CButton::Create(const char16_t* lpszCaption, DWORD dwStyle, const CRect& rect,
-                     CWnd* pParentWnd, UINT nID) {
-    return CWnd::CreateEx(0, u"BUTTON", lpszCaption, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+BOOL CButton::Create(const wchar_t* lpszCaption, DWORD dwStyle, const CRect& rect, CWnd* pParentWnd,
+                     UINT nID) {
+    return CWnd::CreateEx(0, L"BUTTON", lpszCaption, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 UINT CButton::GetState() const {

@@ -4,7 +4,7 @@
 
 class CButton : public CWnd {
 public:
-    virtual BOOL Create(const char16_t* lpszCaption, DWORD dwStyle, const CRect& rect,
+    virtual BOOL Create(const wchar_t* lpszCaption, DWORD dwStyle, const CRect& rect,
                         CWnd* pParentWnd, UINT nID);
 
     UINT GetState() const;

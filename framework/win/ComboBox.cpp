@@ -3,13 +3,13 @@
 #include "framework/win/Geometry.h"
 
 namespace {
-inline LPARAM Text(const char16_t* s) {
+inline LPARAM Text(const wchar_t* s) {
     return reinterpret_cast<LPARAM>(s);
 }
 } // namespace
 
 BOOL CComboBox::Create(DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID) {
-    return CWnd::CreateEx(0, u"COMBOBOX", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(0, L"COMBOBOX", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 int CComboBox::GetCount() const {
@@ -44,7 +44,7 @@ int CComboBox::GetLBText(int nIndex, CString& rString) const {
         rString.Empty();
         return CB_ERR;
     }
-    char16_t* buffer = rString.GetBuffer(length + 1);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
     int copied =
         static_cast<int>(SendMessage(CB_GETLBTEXT, nIndex, reinterpret_cast<LPARAM>(buffer)));
     rString.ReleaseBuffer(copied == CB_ERR ? 0 : copied);
@@ -101,7 +101,7 @@ void CComboBox::ShowDropDown(BOOL bShowIt) {
     SendMessage(CB_SHOWDROPDOWN, bShowIt);
 }
 
-int CComboBox::AddString(const char16_t* lpszString) {
+int CComboBox::AddString(const wchar_t* lpszString) {
     return static_cast<int>(SendMessage(CB_ADDSTRING, 0, Text(lpszString)));
 }
 
@@ -109,7 +109,7 @@ int CComboBox::DeleteString(UINT nIndex) {
     return static_cast<int>(SendMessage(CB_DELETESTRING, nIndex));
 }
 
-int CComboBox::InsertString(int nIndex, const char16_t* lpszString) {
+int CComboBox::InsertString(int nIndex, const wchar_t* lpszString) {
     return static_cast<int>(SendMessage(CB_INSERTSTRING, nIndex, Text(lpszString)));
 }
 
@@ -117,14 +117,14 @@ void CComboBox::ResetContent() {
     SendMessage(CB_RESETCONTENT);
 }
 
-int CComboBox::FindString(int nStartAfter, const char16_t* lpszString) const {
+int CComboBox::FindString(int nStartAfter, const wchar_t* lpszString) const {
     return static_cast<int>(SendMessage(CB_FINDSTRING, nStartAfter, Text(lpszString)));
 }
 
-int CComboBox::FindStringExact(int nIndexStart, const char16_t* lpszFind) const {
+int CComboBox::FindStringExact(int nIndexStart, const wchar_t* lpszFind) const {
     return static_cast<int>(SendMessage(CB_FINDSTRINGEXACT, nIndexStart, Text(lpszFind)));
 }
 
-int CComboBox::SelectString(int nStartAfter, const char16_t* lpszString) {
+int CComboBox::SelectString(int nStartAfter, const wchar_t* lpszString) {
     return static_cast<int>(SendMessage(CB_SELECTSTRING, nStartAfter, Text(lpszString)));
 }

@@ -31,11 +31,11 @@ public:
 
     // Operations
     void ShowDropDown(BOOL bShowIt = TRUE);
-    int AddString(const char16_t* lpszString);
+    int AddString(const wchar_t* lpszString);
     int DeleteString(UINT nIndex);
-    int InsertString(int nIndex, const char16_t* lpszString);
+    int InsertString(int nIndex, const wchar_t* lpszString);
     void ResetContent();
-    int FindString(int nStartAfter, const char16_t* lpszString) const;
-    int FindStringExact(int nIndexStart, const char16_t* lpszFind) const;
-    int SelectString(int nStartAfter, const char16_t* lpszString);
+    int FindString(int nStartAfter, const wchar_t* lpszString) const;
+    int FindStringExact(int nIndexStart, const wchar_t* lpszFind) const;
+    int SelectString(int nStartAfter, const wchar_t* lpszString);
 };

@@ -6,7 +6,6 @@
 #include "framework/win/Geometry.h"
 #include "framework/win/Pen.h"
 #include "framework/win/ThreadState.h"
-#include "framework/win/Wide.h"
 #include "framework/win/Wnd.h"
 
 namespace {
@@ -147,43 +146,42 @@ int CDC::SetROP2(int nDrawMode) {
     return ::SetROP2(m_hDC, nDrawMode);
 }
 
-int CDC::DrawText(const char16_t* lpszString, int nCount, CRect* lpRect, UINT nFormat) {
+int CDC::DrawText(const wchar_t* lpszString, int nCount, CRect* lpRect, UINT nFormat) {
     if (lpszString == nullptr || lpRect == nullptr)
         return 0;
-    return ::DrawTextW(m_hDC, vu::W(lpszString), nCount, vu::AsRECT(lpRect), nFormat);
+    return ::DrawTextW(m_hDC, lpszString, nCount, vu::AsRECT(lpRect), nFormat);
 }
 
 int CDC::DrawText(const CString& str, CRect* lpRect, UINT nFormat) {
     return DrawText(str.GetString(), str.GetLength(), lpRect, nFormat);
 }
 
-BOOL CDC::TextOut(int x, int y, const char16_t* lpszString, int nCount) {
-    return lpszString != nullptr && ::TextOutW(m_hDC, x, y, vu::W(lpszString), nCount);
+BOOL CDC::TextOut(int x, int y, const wchar_t* lpszString, int nCount) {
+    return lpszString != nullptr && ::TextOutW(m_hDC, x, y, lpszString, nCount);
 }
 
 BOOL CDC::TextOut(int x, int y, const CString& str) {
     return TextOut(x, y, str.GetString(), str.GetLength());
 }
 
-BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, const CRect* lpRect, const char16_t* lpszString,
+BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, const CRect* lpRect, const wchar_t* lpszString,
                      UINT nCount, const int* lpDxWidths) {
-    return ::ExtTextOutW(m_hDC, x, y, nOptions, vu::AsRECT(lpRect), vu::W(lpszString), nCount,
-                         lpDxWidths);
+    return ::ExtTextOutW(m_hDC, x, y, nOptions, vu::AsRECT(lpRect), lpszString, nCount, lpDxWidths);
 }
 
-CSize CDC::TabbedTextOut(int x, int y, const char16_t* lpszString, int nCount, int nTabPositions,
+CSize CDC::TabbedTextOut(int x, int y, const wchar_t* lpszString, int nCount, int nTabPositions,
                          const int* lpnTabStopPositions, int nTabOrigin) {
     if (lpszString == nullptr)
         return CSize(0, 0);
-    LONG extent = ::TabbedTextOutW(m_hDC, x, y, vu::W(lpszString), nCount, nTabPositions,
+    LONG extent = ::TabbedTextOutW(m_hDC, x, y, lpszString, nCount, nTabPositions,
                                    lpnTabStopPositions, nTabOrigin);
     return CSize(LOWORD(extent), HIWORD(extent));
 }
 
-CSize CDC::GetTextExtent(const char16_t* lpszString, int nCount) const {
+CSize CDC::GetTextExtent(const wchar_t* lpszString, int nCount) const {
     SIZE size{0, 0};
     if (lpszString != nullptr)
-        ::GetTextExtentPoint32W(m_hDC, vu::W(lpszString), nCount, &size);
+        ::GetTextExtentPoint32W(m_hDC, lpszString, nCount, &size);
     return vu::ToCSize(size);
 }
 
@@ -191,12 +189,12 @@ CSize CDC::GetTextExtent(const CString& str) const {
     return GetTextExtent(str.GetString(), str.GetLength());
 }
 
-CSize CDC::GetTabbedTextExtent(const char16_t* lpszString, int nCount, int nTabPositions,
+CSize CDC::GetTabbedTextExtent(const wchar_t* lpszString, int nCount, int nTabPositions,
                                const int* lpnTabStopPositions) const {
     if (lpszString == nullptr)
         return CSize(0, 0);
-    DWORD extent = ::GetTabbedTextExtentW(m_hDC, vu::W(lpszString), nCount, nTabPositions,
-                                          lpnTabStopPositions);
+    DWORD extent =
+        ::GetTabbedTextExtentW(m_hDC, lpszString, nCount, nTabPositions, lpnTabStopPositions);
     return CSize(LOWORD(extent), HIWORD(extent));
 }
 

@@ -58,17 +58,17 @@ public:
     int SetROP2(int nDrawMode);
 
     // Text
-    int DrawText(const char16_t* lpszString, int nCount, CRect* lpRect, UINT nFormat);
+    int DrawText(const wchar_t* lpszString, int nCount, CRect* lpRect, UINT nFormat);
     int DrawText(const CString& str, CRect* lpRect, UINT nFormat);
-    BOOL TextOut(int x, int y, const char16_t* lpszString, int nCount);
+    BOOL TextOut(int x, int y, const wchar_t* lpszString, int nCount);
     BOOL TextOut(int x, int y, const CString& str);
-    BOOL ExtTextOut(int x, int y, UINT nOptions, const CRect* lpRect, const char16_t* lpszString,
+    BOOL ExtTextOut(int x, int y, UINT nOptions, const CRect* lpRect, const wchar_t* lpszString,
                     UINT nCount, const int* lpDxWidths = nullptr);
-    CSize TabbedTextOut(int x, int y, const char16_t* lpszString, int nCount, int nTabPositions,
+    CSize TabbedTextOut(int x, int y, const wchar_t* lpszString, int nCount, int nTabPositions,
                         const int* lpnTabStopPositions, int nTabOrigin);
-    CSize GetTextExtent(const char16_t* lpszString, int nCount) const;
+    CSize GetTextExtent(const wchar_t* lpszString, int nCount) const;
     CSize GetTextExtent(const CString& str) const;
-    CSize GetTabbedTextExtent(const char16_t* lpszString, int nCount, int nTabPositions,
+    CSize GetTabbedTextExtent(const wchar_t* lpszString, int nCount, int nTabPositions,
                               const int* lpnTabStopPositions) const;
     BOOL GetTextMetrics(TEXTMETRICW* lpMetrics) const;
 

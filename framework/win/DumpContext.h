@@ -12,7 +12,7 @@ public:
     CDumpContext(const CDumpContext&) = delete;
     CDumpContext& operator=(const CDumpContext&) = delete;
 
-    CDumpContext& operator<<(const char16_t* lpsz);
+    CDumpContext& operator<<(const wchar_t* lpsz);
     CDumpContext& operator<<(const CString& str) { return *this << str.GetString(); }
     CDumpContext& operator<<(int n);
     CDumpContext& operator<<(UINT n);
@@ -27,7 +27,7 @@ public:
     CFile* GetFile() const { return m_pFile; }
 
 private:
-    void Output(const char16_t* lpsz);
+    void Output(const wchar_t* lpsz);
 
     CFile* m_pFile;
     int m_nDepth = 0;

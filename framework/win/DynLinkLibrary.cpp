@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "framework/win/Wide.h"
-
 namespace {
 
 std::vector<CDynLinkLibrary*>& Chain() {
@@ -27,7 +25,7 @@ bool ReadString(HINSTANCE hModule, UINT nID, CString& rString) {
         p += 1 + *p;
     if (p >= end || *p == 0)
         return false;
-    rString = CString(reinterpret_cast<const char16_t*>(p + 1), static_cast<int>(*p));
+    rString = CString(reinterpret_cast<const wchar_t*>(p + 1), static_cast<int>(*p));
     return true;
 }
 

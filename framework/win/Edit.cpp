@@ -1,7 +1,7 @@
 #include "framework/win/Edit.h"
 
 BOOL CEdit::Create(DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID) {
-    return CWnd::CreateEx(0, u"EDIT", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(0, L"EDIT", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 void CEdit::GetSel(int& nStartChar, int& nEndChar) const {
@@ -17,8 +17,8 @@ void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
         SendMessage(EM_SCROLLCARET);
 }
 
-void CEdit::ReplaceSel(const char16_t* lpszNewText, BOOL bCanUndo) {
-    SendMessage(EM_REPLACESEL, bCanUndo, reinterpret_cast<LPARAM>(lpszNewText ? lpszNewText : u""));
+void CEdit::ReplaceSel(const wchar_t* lpszNewText, BOOL bCanUndo) {
+    SendMessage(EM_REPLACESEL, bCanUndo, reinterpret_cast<LPARAM>(lpszNewText ? lpszNewText : L""));
 }
 
 void CEdit::LimitText(int nChars) {
@@ -52,8 +52,8 @@ int CEdit::LineLength(int nLine) const {
 int CEdit::GetLine(int nIndex, CString& rString) const {
     int length = LineLength(LineIndex(nIndex));
     // EM_GETLINE reads the buffer size from its first unit.
-    char16_t* buffer = rString.GetBuffer(length < 1 ? 1 : length);
-    buffer[0] = static_cast<char16_t>(length);
+    wchar_t* buffer = rString.GetBuffer(length < 1 ? 1 : length);
+    buffer[0] = static_cast<wchar_t>(length);
     int copied =
         length > 0
             ? static_cast<int>(SendMessage(EM_GETLINE, nIndex, reinterpret_cast<LPARAM>(buffer)))

@@ -8,7 +8,7 @@ public:
 
     void GetSel(int& nStartChar, int& nEndChar) const;
     void SetSel(int nStartChar, int nEndChar, BOOL bNoScroll = FALSE);
-    void ReplaceSel(const char16_t* lpszNewText, BOOL bCanUndo = FALSE);
+    void ReplaceSel(const wchar_t* lpszNewText, BOOL bCanUndo = FALSE);
     void LimitText(int nChars = 0);
     UINT GetLimitText() const;
     BOOL GetModify() const;

@@ -1,8 +1,6 @@
 #include "framework/win/File.h"
 
-#include "framework/win/Wide.h"
-
-BOOL CFile::Open(const char16_t* lpszFileName, UINT nOpenFlags) {
+BOOL CFile::Open(const wchar_t* lpszFileName, UINT nOpenFlags) {
     Close();
     if (lpszFileName == nullptr)
         return FALSE;
@@ -15,8 +13,8 @@ BOOL CFile::Open(const char16_t* lpszFileName, UINT nOpenFlags) {
     DWORD disposition = OPEN_EXISTING;
     if (nOpenFlags & modeCreate)
         disposition = (nOpenFlags & modeNoTruncate) ? OPEN_ALWAYS : CREATE_ALWAYS;
-    m_hFile = CreateFileW(vu::W(lpszFileName), access, share, nullptr, disposition,
-                          FILE_ATTRIBUTE_NORMAL, nullptr);
+    m_hFile = CreateFileW(lpszFileName, access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
+                          nullptr);
     if (m_hFile == INVALID_HANDLE_VALUE)
         return FALSE;
     m_strFileName = lpszFileName;

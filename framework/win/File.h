@@ -23,7 +23,7 @@ public:
 
     HANDLE m_hFile = INVALID_HANDLE_VALUE;
 
-    virtual BOOL Open(const char16_t* lpszFileName, UINT nOpenFlags);
+    virtual BOOL Open(const wchar_t* lpszFileName, UINT nOpenFlags);
     // Writes everything or returns FALSE.
     virtual BOOL Write(const void* lpBuf, UINT nCount);
     virtual UINT Read(void* lpBuf, UINT nCount);

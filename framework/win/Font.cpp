@@ -3,7 +3,6 @@
 #include <cwchar>
 
 #include "framework/win/ThreadState.h"
-#include "framework/win/Wide.h"
 
 CFont* CFont::FromHandle(HFONT hFont) {
     if (hFont == nullptr)
@@ -25,17 +24,17 @@ BOOL CFont::CreateFontIndirect(const LOGFONTW* lpLogFont) {
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight,
                        BYTE bItalic, BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet,
                        BYTE nOutPrecision, BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily,
-                       const char16_t* lpszFacename) {
+                       const wchar_t* lpszFacename) {
     return Attach(::CreateFontW(nHeight, nWidth, nEscapement, nOrientation, nWeight, bItalic,
                                 bUnderline, cStrikeOut, nCharSet, nOutPrecision, nClipPrecision,
-                                nQuality, nPitchAndFamily, vu::W(lpszFacename)));
+                                nQuality, nPitchAndFamily, lpszFacename));
 }
 
-BOOL CFont::CreatePointFont(int nPointSize, const char16_t* lpszFaceName, HDC hDC) {
+BOOL CFont::CreatePointFont(int nPointSize, const wchar_t* lpszFaceName, HDC hDC) {
     LOGFONTW lf{};
     lf.lfCharSet = DEFAULT_CHARSET;
     if (lpszFaceName != nullptr)
-        wcsncpy(lf.lfFaceName, vu::W(lpszFaceName), LF_FACESIZE - 1);
+        wcsncpy(lf.lfFaceName, lpszFaceName, LF_FACESIZE - 1);
     HDC hDCScreen = hDC != nullptr ? hDC : ::GetDC(nullptr);
     // Tenths of a point to device units, as a negative (character) height.
     POINT pt{0, MulDiv(GetDeviceCaps(hDCScreen, LOGPIXELSY), nPointSize, 720)};

@@ -11,8 +11,8 @@ public:
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight,
                     BYTE bItalic, BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet,
                     BYTE nOutPrecision, BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily,
-                    const char16_t* lpszFacename);
+                    const wchar_t* lpszFacename);
     // Height in tenths of a point on the screen (or pDC's device).
-    BOOL CreatePointFont(int nPointSize, const char16_t* lpszFaceName, HDC hDC = nullptr);
+    BOOL CreatePointFont(int nPointSize, const wchar_t* lpszFaceName, HDC hDC = nullptr);
     int GetLogFont(LOGFONTW* pLogFont) const;
 };

@@ -1,20 +1,19 @@
 #include "framework/win/ListBox.h"
 
 #include "framework/win/Geometry.h"
-#include "framework/win/Wide.h"
 
 namespace {
-inline LPARAM Text(const char16_t* s) {
+inline LPARAM Text(const wchar_t* s) {
     return reinterpret_cast<LPARAM>(s);
 }
 } // namespace
 
 BOOL CListBox::Create(DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID) {
-    return CWnd::CreateEx(0, u"LISTBOX", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(0, L"LISTBOX", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CListBox::Create(DWORD dwStyle, const CRect& rect, HWND hWndParent, UINT nID) {
-    return CWnd::CreateEx(0, u"LISTBOX", nullptr, dwStyle | WS_CHILD, rect.left, rect.top,
+    return CWnd::CreateEx(0, L"LISTBOX", nullptr, dwStyle | WS_CHILD, rect.left, rect.top,
                           rect.right - rect.left, rect.bottom - rect.top, hWndParent,
                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)));
 }
@@ -71,7 +70,7 @@ int CListBox::GetText(int nIndex, CString& rString) const {
         rString.Empty();
         return LB_ERR;
     }
-    char16_t* buffer = rString.GetBuffer(length + 1);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
     int copied =
         static_cast<int>(SendMessage(LB_GETTEXT, nIndex, reinterpret_cast<LPARAM>(buffer)));
     rString.ReleaseBuffer(copied == LB_ERR ? 0 : copied);
@@ -132,7 +131,7 @@ void CListBox::SetColumnWidth(int cxWidth) {
     SendMessage(LB_SETCOLUMNWIDTH, cxWidth);
 }
 
-int CListBox::AddString(const char16_t* lpszItem) {
+int CListBox::AddString(const wchar_t* lpszItem) {
     return static_cast<int>(SendMessage(LB_ADDSTRING, 0, Text(lpszItem)));
 }
 
@@ -140,7 +139,7 @@ int CListBox::DeleteString(UINT nIndex) {
     return static_cast<int>(SendMessage(LB_DELETESTRING, nIndex));
 }
 
-int CListBox::InsertString(int nIndex, const char16_t* lpszItem) {
+int CListBox::InsertString(int nIndex, const wchar_t* lpszItem) {
     return static_cast<int>(SendMessage(LB_INSERTSTRING, nIndex, Text(lpszItem)));
 }
 
@@ -148,14 +147,14 @@ void CListBox::ResetContent() {
     SendMessage(LB_RESETCONTENT);
 }
 
-int CListBox::FindString(int nStartAfter, const char16_t* lpszItem) const {
+int CListBox::FindString(int nStartAfter, const wchar_t* lpszItem) const {
     return static_cast<int>(SendMessage(LB_FINDSTRING, nStartAfter, Text(lpszItem)));
 }
 
-int CListBox::FindStringExact(int nIndexStart, const char16_t* lpszFind) const {
+int CListBox::FindStringExact(int nIndexStart, const wchar_t* lpszFind) const {
     return static_cast<int>(SendMessage(LB_FINDSTRINGEXACT, nIndexStart, Text(lpszFind)));
 }
 
-int CListBox::SelectString(int nStartAfter, const char16_t* lpszItem) {
+int CListBox::SelectString(int nStartAfter, const wchar_t* lpszItem) {
     return static_cast<int>(SendMessage(LB_SELECTSTRING, nStartAfter, Text(lpszItem)));
 }

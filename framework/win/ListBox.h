@@ -39,11 +39,11 @@ public:
     void SetColumnWidth(int cxWidth);
 
     // Operations
-    int AddString(const char16_t* lpszItem);
+    int AddString(const wchar_t* lpszItem);
     int DeleteString(UINT nIndex);
-    int InsertString(int nIndex, const char16_t* lpszItem);
+    int InsertString(int nIndex, const wchar_t* lpszItem);
     void ResetContent();
-    int FindString(int nStartAfter, const char16_t* lpszItem) const;
-    int FindStringExact(int nIndexStart, const char16_t* lpszFind) const;
-    int SelectString(int nStartAfter, const char16_t* lpszItem);
+    int FindString(int nStartAfter, const wchar_t* lpszItem) const;
+    int FindStringExact(int nIndexStart, const wchar_t* lpszFind) const;
+    int SelectString(int nStartAfter, const wchar_t* lpszItem);
 };

@@ -2,7 +2,6 @@
 
 #include "framework/win/DynLinkLibrary.h"
 #include "framework/win/ThreadState.h"
-#include "framework/win/Wide.h"
 #include "framework/win/Wnd.h"
 
 namespace {
@@ -44,8 +43,8 @@ int CMenu::GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const {
         rString.Empty();
         return 0;
     }
-    char16_t* buffer = rString.GetBuffer(length + 1);
-    int copied = ::GetMenuStringW(m_hMenu, nIDItem, vu::W(buffer), length + 1, nFlags);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
+    int copied = ::GetMenuStringW(m_hMenu, nIDItem, buffer, length + 1, nFlags);
     rString.ReleaseBuffer(copied);
     return copied;
 }
@@ -83,18 +82,18 @@ BOOL CMenu::DestroyMenu() {
     return ::DestroyMenu(Detach());
 }
 
-BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const char16_t* lpszNewItem) {
-    return ::AppendMenuW(m_hMenu, nFlags, nIDNewItem, vu::W(lpszNewItem));
+BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const wchar_t* lpszNewItem) {
+    return ::AppendMenuW(m_hMenu, nFlags, nIDNewItem, lpszNewItem);
 }
 
 BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem,
-                       const char16_t* lpszNewItem) {
-    return ::InsertMenuW(m_hMenu, nPosition, nFlags, nIDNewItem, vu::W(lpszNewItem));
+                       const wchar_t* lpszNewItem) {
+    return ::InsertMenuW(m_hMenu, nPosition, nFlags, nIDNewItem, lpszNewItem);
 }
 
 BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem,
-                       const char16_t* lpszNewItem) {
-    return ::ModifyMenuW(m_hMenu, nPosition, nFlags, nIDNewItem, vu::W(lpszNewItem));
+                       const wchar_t* lpszNewItem) {
+    return ::ModifyMenuW(m_hMenu, nPosition, nFlags, nIDNewItem, lpszNewItem);
 }
 
 BOOL CMenu::RemoveMenu(UINT nPosition, UINT nFlags) {

@@ -32,11 +32,11 @@ public:
     BOOL Attach(HMENU hMenu);
     HMENU Detach();
     BOOL DestroyMenu();
-    BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, const char16_t* lpszNewItem = nullptr);
+    BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, const wchar_t* lpszNewItem = nullptr);
     BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0,
-                    const char16_t* lpszNewItem = nullptr);
+                    const wchar_t* lpszNewItem = nullptr);
     BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0,
-                    const char16_t* lpszNewItem = nullptr);
+                    const wchar_t* lpszNewItem = nullptr);
     BOOL RemoveMenu(UINT nPosition, UINT nFlags);
     BOOL DeleteMenu(UINT nPosition, UINT nFlags);
     UINT EnableMenuItem(UINT nIDEnableItem, UINT nEnable);

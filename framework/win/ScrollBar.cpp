@@ -1,7 +1,7 @@
 #include "framework/win/ScrollBar.h"
 
 BOOL CScrollBar::Create(DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID) {
-    return CWnd::CreateEx(0, u"SCROLLBAR", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(0, L"SCROLLBAR", nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 int CScrollBar::GetScrollPos() const {

@@ -1,8 +1,8 @@
 #include "framework/win/Static.h"
 
-BOOL CStatic::Create(const char16_t* lpszText, DWORD dwStyle, const CRect& rect, CWnd* pParentWnd,
+BOOL CStatic::Create(const wchar_t* lpszText, DWORD dwStyle, const CRect& rect, CWnd* pParentWnd,
                      UINT nID) {
-    return CWnd::CreateEx(0, u"STATIC", lpszText, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(0, L"STATIC", lpszText, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 HICON CStatic::SetIcon(HICON hIcon) {

@@ -4,8 +4,8 @@
 
 class CStatic : public CWnd {
 public:
-    virtual BOOL Create(const char16_t* lpszText, DWORD dwStyle, const CRect& rect,
-                        CWnd* pParentWnd, UINT nID = 0xffff);
+    virtual BOOL Create(const wchar_t* lpszText, DWORD dwStyle, const CRect& rect, CWnd* pParentWnd,
+                        UINT nID = 0xffff);
 
     HICON SetIcon(HICON hIcon);
     HICON GetIcon() const;

@@ -1,7 +1,6 @@
 #include "framework/win/ToolTipCtrl.h"
 
 #include "framework/win/Geometry.h"
-#include "framework/win/Wide.h"
 
 namespace {
 
@@ -19,9 +18,9 @@ TOOLINFOW MakeToolInfo(CWnd* pWnd, UINT_PTR nIDTool) {
 } // namespace
 
 BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle) {
-    return CreateEx(WS_EX_TOOLWINDOW, vu::U(TOOLTIPS_CLASSW), nullptr,
-                    WS_POPUP | TTS_ALWAYSTIP | dwStyle, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
-                    CW_USEDEFAULT, pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, nullptr);
+    return CreateEx(WS_EX_TOOLWINDOW, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | dwStyle,
+                    CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT,
+                    pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, nullptr);
 }
 
 BOOL CToolTipCtrl::AddTool(TOOLINFOW* pToolInfo) {
@@ -31,7 +30,7 @@ BOOL CToolTipCtrl::AddTool(TOOLINFOW* pToolInfo) {
     return static_cast<BOOL>(SendMessage(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(pToolInfo)));
 }
 
-BOOL CToolTipCtrl::AddTool(CWnd* pWnd, const char16_t* lpszText, const CRect* lpRect,
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, const wchar_t* lpszText, const CRect* lpRect,
                            UINT_PTR nIDTool) {
     if (pWnd == nullptr)
         return FALSE;
@@ -41,9 +40,9 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, const char16_t* lpszText, const CRect* lp
         ti.rect = vu::ToRECT(*lpRect);
     else
         ::GetClientRect(pWnd->m_hWnd, &ti.rect);
-    ti.lpszText = lpszText == reinterpret_cast<const char16_t*>(LPSTR_TEXTCALLBACKW)
+    ti.lpszText = lpszText == reinterpret_cast<const wchar_t*>(LPSTR_TEXTCALLBACKW)
                       ? LPSTR_TEXTCALLBACKW
-                      : const_cast<wchar_t*>(vu::W(lpszText));
+                      : const_cast<wchar_t*>(lpszText);
     return static_cast<BOOL>(SendMessage(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&ti)));
 }
 
@@ -72,9 +71,9 @@ void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, const CRect& rect) 
     SendMessage(TTM_NEWTOOLRECTW, 0, reinterpret_cast<LPARAM>(&ti));
 }
 
-void CToolTipCtrl::UpdateTipText(const char16_t* lpszText, CWnd* pWnd, UINT_PTR nIDTool) {
+void CToolTipCtrl::UpdateTipText(const wchar_t* lpszText, CWnd* pWnd, UINT_PTR nIDTool) {
     TOOLINFOW ti = MakeToolInfo(pWnd, nIDTool);
-    ti.lpszText = const_cast<wchar_t*>(vu::W(lpszText));
+    ti.lpszText = const_cast<wchar_t*>(lpszText);
     SendMessage(TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&ti));
 }
 

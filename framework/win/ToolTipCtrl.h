@@ -17,13 +17,13 @@ public:
     // A tool over a rectangle of pWnd (the whole window when lpRect is null)
     // whose text is lpszText, or supplied by TTN_NEEDTEXT when it is
     // LPSTR_TEXTCALLBACKW.
-    BOOL AddTool(CWnd* pWnd, const char16_t* lpszText, const CRect* lpRect = nullptr,
+    BOOL AddTool(CWnd* pWnd, const wchar_t* lpszText, const CRect* lpRect = nullptr,
                  UINT_PTR nIDTool = 0);
     void DelTool(CWnd* pWnd, UINT_PTR nIDTool = 0);
     BOOL GetToolInfo(TOOLINFOW* pToolInfo, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
     void SetToolInfo(TOOLINFOW* pToolInfo);
     void SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, const CRect& rect);
-    void UpdateTipText(const char16_t* lpszText, CWnd* pWnd, UINT_PTR nIDTool = 0);
+    void UpdateTipText(const wchar_t* lpszText, CWnd* pWnd, UINT_PTR nIDTool = 0);
     int GetToolCount() const;
 
     // Behaviour

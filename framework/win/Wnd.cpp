@@ -8,7 +8,6 @@
 #include "framework/win/Geometry.h"
 #include "framework/win/Menu.h"
 #include "framework/win/ThreadState.h"
-#include "framework/win/Wide.h"
 
 namespace {
 
@@ -236,15 +235,15 @@ void CWnd::UnhookCreation() {
     }
 }
 
-BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16_t* lpszWindowName,
+BOOL CWnd::CreateEx(DWORD dwExStyle, const wchar_t* lpszClassName, const wchar_t* lpszWindowName,
                     DWORD dwStyle, int x, int y, int nWidth, int nHeight, HWND hWndParent,
                     HMENU nIDorHMenu, LPVOID lpParam) {
     if (m_hWnd != nullptr)
         return FALSE;
     CREATESTRUCTW cs{};
     cs.dwExStyle = dwExStyle;
-    cs.lpszClass = vu::W(lpszClassName);
-    cs.lpszName = vu::W(lpszWindowName);
+    cs.lpszClass = lpszClassName;
+    cs.lpszName = lpszWindowName;
     cs.style = static_cast<LONG>(dwStyle);
     cs.x = x;
     cs.y = y;
@@ -273,7 +272,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16
     return m_hWnd == hWnd;
 }
 
-BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16_t* lpszWindowName,
+BOOL CWnd::CreateEx(DWORD dwExStyle, const wchar_t* lpszClassName, const wchar_t* lpszWindowName,
                     DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam) {
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
                     rect.right - rect.left, rect.bottom - rect.top,
@@ -281,7 +280,7 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16
                     reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
 }
 
-BOOL CWnd::Create(const char16_t* lpszClassName, const char16_t* lpszWindowName, DWORD dwStyle,
+BOOL CWnd::Create(const wchar_t* lpszClassName, const wchar_t* lpszWindowName, DWORD dwStyle,
                   const CRect& rect, CWnd* pParentWnd, UINT nID) {
     return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
@@ -469,14 +468,14 @@ BOOL CWnd::IsWindowEnabled() const {
     return ::IsWindowEnabled(m_hWnd);
 }
 
-void CWnd::SetWindowText(const char16_t* lpszString) {
-    ::SetWindowTextW(m_hWnd, vu::W(lpszString != nullptr ? lpszString : u""));
+void CWnd::SetWindowText(const wchar_t* lpszString) {
+    ::SetWindowTextW(m_hWnd, (lpszString != nullptr ? lpszString : L""));
 }
 
 int CWnd::GetWindowText(CString& rString) const {
     int length = ::GetWindowTextLengthW(m_hWnd);
-    char16_t* buffer = rString.GetBuffer(length + 1);
-    int copied = ::GetWindowTextW(m_hWnd, vu::W(buffer), length + 1);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
+    int copied = ::GetWindowTextW(m_hWnd, buffer, length + 1);
     rString.ReleaseBuffer(copied);
     return copied;
 }
@@ -512,14 +511,14 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const {
     if (hWndItem == nullptr)
         return 0;
     int length = ::GetWindowTextLengthW(hWndItem);
-    char16_t* buffer = rString.GetBuffer(length + 1);
-    int copied = ::GetWindowTextW(hWndItem, vu::W(buffer), length + 1);
+    wchar_t* buffer = rString.GetBuffer(length + 1);
+    int copied = ::GetWindowTextW(hWndItem, buffer, length + 1);
     rString.ReleaseBuffer(copied);
     return copied;
 }
 
-void CWnd::SetDlgItemText(int nID, const char16_t* lpszString) {
-    ::SetDlgItemTextW(m_hWnd, nID, vu::W(lpszString != nullptr ? lpszString : u""));
+void CWnd::SetDlgItemText(int nID, const wchar_t* lpszString) {
+    ::SetDlgItemTextW(m_hWnd, nID, (lpszString != nullptr ? lpszString : L""));
 }
 
 // ---- geometry ----------------------------------------------------------------

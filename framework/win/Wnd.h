@@ -46,14 +46,14 @@ public:
     BOOL IsSubclassed() const { return m_pfnSuper != nullptr; }
 
     // Creation
-    virtual BOOL CreateEx(DWORD dwExStyle, const char16_t* lpszClassName,
-                          const char16_t* lpszWindowName, DWORD dwStyle, int x, int y, int nWidth,
+    virtual BOOL CreateEx(DWORD dwExStyle, const wchar_t* lpszClassName,
+                          const wchar_t* lpszWindowName, DWORD dwStyle, int x, int y, int nWidth,
                           int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
-    BOOL CreateEx(DWORD dwExStyle, const char16_t* lpszClassName, const char16_t* lpszWindowName,
+    BOOL CreateEx(DWORD dwExStyle, const wchar_t* lpszClassName, const wchar_t* lpszWindowName,
                   DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID,
                   LPVOID lpParam = nullptr);
-    virtual BOOL Create(const char16_t* lpszClassName, const char16_t* lpszWindowName,
-                        DWORD dwStyle, const CRect& rect, CWnd* pParentWnd, UINT nID);
+    virtual BOOL Create(const wchar_t* lpszClassName, const wchar_t* lpszWindowName, DWORD dwStyle,
+                        const CRect& rect, CWnd* pParentWnd, UINT nID);
     virtual BOOL DestroyWindow();
 
     // Window state
@@ -73,7 +73,7 @@ public:
     BOOL IsWindowVisible() const;
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL IsWindowEnabled() const;
-    void SetWindowText(const char16_t* lpszString);
+    void SetWindowText(const wchar_t* lpszString);
     int GetWindowText(CString& rString) const;
     int GetWindowTextLength() const;
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
@@ -84,7 +84,7 @@ public:
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     int GetDlgItemText(int nID, CString& rString) const;
-    void SetDlgItemText(int nID, const char16_t* lpszString);
+    void SetDlgItemText(int nID, const wchar_t* lpszString);
 
     // Geometry
     void GetClientRect(LPRECT lpRect) const;

@@ -15,14 +15,14 @@ namespace fs = std::filesystem;
 namespace {
 
 #ifdef _WIN32
-constexpr char16_t kSep = u'\\';
+constexpr WCHAR kSep = VU_T('\\');
 #else
-constexpr char16_t kSep = u'/';
+constexpr WCHAR kSep = VU_T('/');
 #endif
 
-std::string Ascii(std::u16string_view s) {
+std::string Ascii(vu::StringView s) {
     std::string out;
-    for (char16_t c : s)
+    for (WCHAR c : s)
         out += c < 0x80 ? static_cast<char>(c) : '?';
     return out;
 }
@@ -36,92 +36,103 @@ protected:
                  "-" + std::to_string(counter++));
         fs::remove_all(m_dir);
         fs::create_directory(m_dir);
+#ifdef _WIN32
+        m_root = m_dir.wstring();
+#else
         m_root = m_dir.u16string();
+#endif
     }
-    void TearDown() override { fs::remove_all(m_dir); }
+    void TearDown() override {
+        fs::remove_all(m_dir);
+    }
 
     // The temporary directory joined with parts, by the platform's separator.
-    std::u16string In(std::initializer_list<std::u16string_view> parts) const {
-        std::u16string p = m_root;
+    vu::String In(std::initializer_list<vu::StringView> parts) const {
+        vu::String p = m_root;
         for (auto part : parts) {
             p += kSep;
             p += part;
         }
         return p;
     }
-    void MakeFile(const std::u16string& path) const { std::ofstream(fs::path(path)) << "x"; }
-    static bool IsDir(const std::u16string& path) { return fs::is_directory(fs::path(path)); }
+    void MakeFile(const vu::String& path) const {
+        std::ofstream(fs::path(path)) << "x";
+    }
+    static bool IsDir(const vu::String& path) {
+        return fs::is_directory(fs::path(path));
+    }
 
     fs::path m_dir;
-    std::u16string m_root;
+    vu::String m_root;
 };
 
 TEST_F(PathFileSystem, CreateDirMakesEveryMissingDirectoryOrFails) {
-    const AF_CPath p(In({u"a", u"b c", u"d", u"file.txt"}).c_str());
+    const AF_CPath p(In({VU_T("a"), VU_T("b c"), VU_T("d"), VU_T("file.txt")}).c_str());
     EXPECT_FALSE(p.DirExists());
     EXPECT_TRUE(p.CreateDir());
-    EXPECT_TRUE(IsDir(In({u"a", u"b c", u"d"})));
+    EXPECT_TRUE(IsDir(In({VU_T("a"), VU_T("b c"), VU_T("d")})));
     EXPECT_FALSE(p.FileExists()); // only the directories are made
     EXPECT_TRUE(p.DirExists());
     EXPECT_TRUE(p.CreateDir()); // again: nothing left to make
     // A trailing separator makes the last component a directory too.
-    EXPECT_TRUE(AF_CPath((In({u"e", u"f"}) + kSep).c_str()).CreateDir());
-    EXPECT_TRUE(IsDir(In({u"e", u"f"})));
+    EXPECT_TRUE(AF_CPath((In({VU_T("e"), VU_T("f")}) + kSep).c_str()).CreateDir());
+    EXPECT_TRUE(IsDir(In({VU_T("e"), VU_T("f")})));
 
-    MakeFile(In({u"plain"}));
-    EXPECT_FALSE(AF_CPath(In({u"plain", u"sub", u"x.txt"}).c_str()).CreateDir());
-    EXPECT_FALSE(fs::exists(fs::path(In({u"plain", u"sub"}))));
-    for (const std::u16string& bad :
-         {std::u16string(u"relative\\dir\\x.txt"),
-          std::u16string(u"\\\\machine\\share\\dir\\x.txt"), std::u16string(u"x.txt"),
-          In({std::u16string(261, u'l'), u"x.txt"})}) {
+    MakeFile(In({VU_T("plain")}));
+    EXPECT_FALSE(AF_CPath(In({VU_T("plain"), VU_T("sub"), VU_T("x.txt")}).c_str()).CreateDir());
+    EXPECT_FALSE(fs::exists(fs::path(In({VU_T("plain"), VU_T("sub")}))));
+    for (const vu::String& bad :
+         {vu::String(VU_T("relative\\dir\\x.txt")),
+          vu::String(VU_T("\\\\machine\\share\\dir\\x.txt")), vu::String(VU_T("x.txt")),
+          In({vu::String(261, VU_T('l')), VU_T("x.txt")})}) {
         SCOPED_TRACE(Ascii(bad));
         EXPECT_FALSE(AF_CPath(bad.c_str()).CreateDir());
     }
 #ifndef _WIN32
-    EXPECT_FALSE(AF_CPath(u"C:\\dir\\x.txt").CreateDir()); // no drive letters here
+    EXPECT_FALSE(AF_CPath(VU_T("C:\\dir\\x.txt")).CreateDir()); // no drive letters here
 #endif
 }
 
 TEST_F(PathFileSystem, DeleteDirRemovesOnlyAnEmptyExistingDirectory) {
-    const AF_CPath p(In({u"gone", u"x.txt"}).c_str());
+    const AF_CPath p(In({VU_T("gone"), VU_T("x.txt")}).c_str());
     EXPECT_FALSE(p.DeleteDir());
     ASSERT_TRUE(p.CreateDir());
     EXPECT_TRUE(p.DeleteDir());
-    EXPECT_FALSE(fs::exists(fs::path(In({u"gone"}))));
+    EXPECT_FALSE(fs::exists(fs::path(In({VU_T("gone")}))));
 
-    const std::u16string file = In({u"full", u"x.txt"});
+    const vu::String file = In({VU_T("full"), VU_T("x.txt")});
     ASSERT_TRUE(AF_CPath(file.c_str()).CreateDir());
     MakeFile(file);
-    EXPECT_FALSE(AF_CPath::DeleteDir(In({u"full"}).c_str()));
+    EXPECT_FALSE(AF_CPath::DeleteDir(In({VU_T("full")}).c_str()));
     fs::remove(fs::path(file));
-    EXPECT_TRUE(AF_CPath::DeleteDir(In({u"full"}).c_str()));
+    EXPECT_TRUE(AF_CPath::DeleteDir(In({VU_T("full")}).c_str()));
     EXPECT_FALSE(AF_CPath::DeleteDir(nullptr));
 
     // Existence tests do not check the kind.
-    MakeFile(In({u"f.txt"}));
-    EXPECT_TRUE(AF_CPath::FileExists(In({u"f.txt"}).c_str()));
-    EXPECT_TRUE(AF_CPath::DirExists(In({u"f.txt"}).c_str()));
+    MakeFile(In({VU_T("f.txt")}));
+    EXPECT_TRUE(AF_CPath::FileExists(In({VU_T("f.txt")}).c_str()));
+    EXPECT_TRUE(AF_CPath::DirExists(In({VU_T("f.txt")}).c_str()));
     EXPECT_TRUE(AF_CPath::FileExists(m_root.c_str()));
-    EXPECT_FALSE(AF_CPath::FileExists(In({u"missing"}).c_str()));
-    EXPECT_FALSE(AF_CPath::DirExists(u""));
+    EXPECT_FALSE(AF_CPath::FileExists(In({VU_T("missing")}).c_str()));
+    EXPECT_FALSE(AF_CPath::DirExists(VU_T("")));
     EXPECT_FALSE(AF_CPath::FileExists(nullptr));
     EXPECT_TRUE(AF_CPath::DirExists(AF_CPath::GetCwd()));
 }
 
 TEST_F(PathFileSystem, MakeAbsoluteResolvesDotsTextually) {
-    AF_CPath p(In({u"a", u"..", u"b", u".", u"f.txt"}).c_str());
+    AF_CPath p(In({VU_T("a"), VU_T(".."), VU_T("b"), VU_T("."), VU_T("f.txt")}).c_str());
     EXPECT_TRUE(p.MakeAbsolute()); // nothing needs to exist
-    EXPECT_EQ(Ascii(p.GetFullPath().View()), Ascii(In({u"b", u"f.txt"})));
+    EXPECT_EQ(Ascii(p.GetFullPath().View()), Ascii(In({VU_T("b"), VU_T("f.txt")})));
     EXPECT_EQ(Ascii(p.GetRoot().View()), "f");
 
-    AF_CPath dir((In({u"a", u"..", u"b"}) + kSep).c_str()); // a trailing separator stays
+    AF_CPath dir(
+        (In({VU_T("a"), VU_T(".."), VU_T("b")}) + kSep).c_str()); // a trailing separator stays
     EXPECT_TRUE(dir.MakeAbsolute());
-    EXPECT_EQ(Ascii(dir.GetFullPath().View()), Ascii(In({u"b"}) + kSep));
+    EXPECT_EQ(Ascii(dir.GetFullPath().View()), Ascii(In({VU_T("b")}) + kSep));
 
-    AF_CPath relative((std::u16string(u"x") + kSep + u"y.txt").c_str());
+    AF_CPath relative((vu::String(VU_T("x")) + kSep + VU_T("y.txt")).c_str());
     EXPECT_TRUE(relative.MakeAbsolute());
-    const std::u16string expected = AF_CPath::GetCwd().Str() + kSep + u"x" + kSep + u"y.txt";
+    const vu::String expected = AF_CPath::GetCwd().Str() + kSep + VU_T("x") + kSep + VU_T("y.txt");
     EXPECT_EQ(Ascii(relative.GetFullPath().View()), Ascii(expected));
 
     AF_CPath empty;
@@ -129,64 +140,64 @@ TEST_F(PathFileSystem, MakeAbsoluteResolvesDotsTextually) {
     EXPECT_TRUE(empty.GetFullPath().IsEmpty());
 
     // The result must fit a 260-unit buffer; a failure leaves the path alone.
-    const std::u16string tooLong = In({std::u16string(270, u'l')});
+    const vu::String tooLong = In({vu::String(270, VU_T('l'))});
     AF_CPath big(tooLong.c_str());
     EXPECT_FALSE(big.MakeAbsolute());
     EXPECT_EQ(big.GetFullPath().Str(), tooLong);
 }
 
 TEST_F(PathFileSystem, LongNamesComeFromTheFileSystem) {
-    MakeFile(In({u"Long File Name.txt"}));
+    MakeFile(In({VU_T("Long File Name.txt")}));
     CString name;
-    EXPECT_TRUE(AF_CPath::GetLongName(In({u"Long File Name.txt"}).c_str(), &name));
+    EXPECT_TRUE(AF_CPath::GetLongName(In({VU_T("Long File Name.txt")}).c_str(), &name));
     EXPECT_EQ(Ascii(name.View()), "Long File Name.txt");
-    EXPECT_FALSE(AF_CPath::GetLongName(In({u"missing.txt"}).c_str(), &name));
+    EXPECT_FALSE(AF_CPath::GetLongName(In({VU_T("missing.txt")}).c_str(), &name));
     EXPECT_FALSE(AF_CPath::GetLongName((m_root + kSep).c_str(), &name));
-    EXPECT_FALSE(AF_CPath::GetLongName(u"", &name));
-    EXPECT_FALSE(AF_CPath::GetLongName(u"x", nullptr));
-    EXPECT_TRUE(AF_CPath::GetLongName(u"c:", &name));
+    EXPECT_FALSE(AF_CPath::GetLongName(VU_T(""), &name));
+    EXPECT_FALSE(AF_CPath::GetLongName(VU_T("x"), nullptr));
+    EXPECT_TRUE(AF_CPath::GetLongName(VU_T("c:"), &name));
     EXPECT_EQ(Ascii(name.View()), "C:");
-    EXPECT_TRUE(AF_CPath::GetLongName(u"d:\\", &name));
+    EXPECT_TRUE(AF_CPath::GetLongName(VU_T("d:\\"), &name));
     EXPECT_EQ(Ascii(name.View()), "D:\\");
 #ifdef _WIN32
-    EXPECT_FALSE(AF_CPath::GetLongName(u"\\", &name));
+    EXPECT_FALSE(AF_CPath::GetLongName(VU_T("\\"), &name));
 #else
-    EXPECT_TRUE(AF_CPath::GetLongName(u"/", &name)); // the root stands for the drive
+    EXPECT_TRUE(AF_CPath::GetLongName(VU_T("/"), &name)); // the root stands for the drive
 #endif
-    MakeFile(In({u"b.log"}));
-    MakeFile(In({u"a.log"}));
-    EXPECT_TRUE(AF_CPath::GetLongName(In({u"*.log"}).c_str(), &name));
-    EXPECT_TRUE(name == u"a.log" || name == u"b.log") << Ascii(name.View());
+    MakeFile(In({VU_T("b.log")}));
+    MakeFile(In({VU_T("a.log")}));
+    EXPECT_TRUE(AF_CPath::GetLongName(In({VU_T("*.log")}).c_str(), &name));
+    EXPECT_TRUE(name == VU_T("a.log") || name == VU_T("b.log")) << Ascii(name.View());
 }
 
 TEST_F(PathFileSystem, RemoveAliasesKeepsLongNames) {
-    ASSERT_TRUE(AF_CPath(In({u"Some Dir", u"x"}).c_str()).CreateDir());
-    MakeFile(In({u"Some Dir", u"file name.txt"}));
-    AF_CPath p(In({u"Some Dir", u"file name.txt"}).c_str());
+    ASSERT_TRUE(AF_CPath(In({VU_T("Some Dir"), VU_T("x")}).c_str()).CreateDir());
+    MakeFile(In({VU_T("Some Dir"), VU_T("file name.txt")}));
+    AF_CPath p(In({VU_T("Some Dir"), VU_T("file name.txt")}).c_str());
     const CString before = p.GetFullPath();
     EXPECT_TRUE(p.RemoveAliases());
     EXPECT_TRUE(p == before) << Ascii(p.GetFullPath().View());
 
     // No file part: the directory is converted, the name look-up fails.
-    AF_CPath dirOnly((In({u"Some Dir"}) + kSep).c_str());
+    AF_CPath dirOnly((In({VU_T("Some Dir")}) + kSep).c_str());
     EXPECT_FALSE(dirOnly.RemoveAliases());
-    EXPECT_TRUE(dirOnly == (In({u"Some Dir"}) + kSep).c_str())
+    EXPECT_TRUE(dirOnly == (In({VU_T("Some Dir")}) + kSep).c_str())
         << Ascii(dirOnly.GetFullPath().View());
 
-    AF_CPath missing(In({u"No Dir", u"f.txt"}).c_str());
+    AF_CPath missing(In({VU_T("No Dir"), VU_T("f.txt")}).c_str());
     EXPECT_FALSE(missing.RemoveAliases());
-    EXPECT_EQ(missing.GetFullPath().Str(), In({u"No Dir", u"f.txt"}));
+    EXPECT_EQ(missing.GetFullPath().Str(), In({VU_T("No Dir"), VU_T("f.txt")}));
 }
 
 #ifndef _WIN32
 // Names travel as UTF-8 to the file system and back.
 TEST_F(PathFileSystem, NonAsciiNamesRoundTrip) {
-    const std::u16string dir = In({u"\u00dcber \u00df \u4e2d", u"x.txt"});
+    const vu::String dir = In({VU_T("\u00dcber \u00df \u4e2d"), VU_T("x.txt")});
     EXPECT_TRUE(AF_CPath(dir.c_str()).CreateDir());
     EXPECT_TRUE(fs::is_directory(m_dir / fs::path(u8"\u00dcber \u00df \u4e2d")));
     CString name;
-    EXPECT_TRUE(AF_CPath::GetLongName(In({u"\u00dcber \u00df \u4e2d"}).c_str(), &name));
-    EXPECT_EQ(name.Str(), u"\u00dcber \u00df \u4e2d");
+    EXPECT_TRUE(AF_CPath::GetLongName(In({VU_T("\u00dcber \u00df \u4e2d")}).c_str(), &name));
+    EXPECT_EQ(name.Str(), VU_T("\u00dcber \u00df \u4e2d"));
 }
 #endif
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-std::string Ascii(const char16_t* s) {
+std::string Ascii(const WCHAR* s) {
     std::string out;
     for (; *s != 0; ++s)
         out += *s < 0x80 ? static_cast<char>(*s) : '?';
@@ -33,23 +33,23 @@ constexpr char kSep = '/';
 TEST(PathIterator, WalksGrowingPrefixes) {
     const std::string sep(1, kSep);
     struct Row {
-        std::u16string path;
+        vu::String path;
         std::string walk;
     } rows[] = {
-        {u"c:\\a\\b", "c:\\ c:\\a c:\\a\\b !"},
-        {u"c:\\a\\b\\", "c:\\ c:\\a c:\\a\\b !"},
-        {u"c:\\", "c:\\!"},
-        {u"c:", "c:" + sep + "!"},
-        {u"c:\\a\\\\b", "c:\\ c:\\a c:\\a\\ c:\\a\\\\b !"},
-        {u"\\\\srv\\share\\dir", "\\\\srv\\ \\\\srv\\share \\\\srv\\share\\dir !"},
-        {u"\\\\srv", "\\\\srv\\!"},
-        {u"ab\\cd", "ab\\ ab\\cd !"},
-        {u"a", "!"},
-        {u"", "!"},
+        {VU_T("c:\\a\\b"), "c:\\ c:\\a c:\\a\\b !"},
+        {VU_T("c:\\a\\b\\"), "c:\\ c:\\a c:\\a\\b !"},
+        {VU_T("c:\\"), "c:\\!"},
+        {VU_T("c:"), "c:" + sep + "!"},
+        {VU_T("c:\\a\\\\b"), "c:\\ c:\\a c:\\a\\ c:\\a\\\\b !"},
+        {VU_T("\\\\srv\\share\\dir"), "\\\\srv\\ \\\\srv\\share \\\\srv\\share\\dir !"},
+        {VU_T("\\\\srv"), "\\\\srv\\!"},
+        {VU_T("ab\\cd"), "ab\\ ab\\cd !"},
+        {VU_T("a"), "!"},
+        {VU_T(""), "!"},
 #ifndef _WIN32
-        {u"/usr/lib", "/ /usr /usr/lib !"},
-        {u"/", "/!"},
-        {u"c:/a", "c:/ c:/a !"},
+        {VU_T("/usr/lib"), "/ /usr /usr/lib !"},
+        {VU_T("/"), "/!"},
+        {VU_T("c:/a"), "c:/ c:/a !"},
 #endif
     };
     for (const auto& row : rows) {
@@ -62,14 +62,14 @@ TEST(PathIterator, WalksGrowingPrefixes) {
 }
 
 TEST(PathIterator, FitsTheFixedBuffer) {
-    const std::u16string dir = u"c:\\" + std::u16string(256, u'x'); // 259 units
-    AF_CPathIterator fits((dir + u"\\").c_str());                   // 260 with the separator
+    const vu::String dir = VU_T("c:\\") + vu::String(256, VU_T('x')); // 259 units
+    AF_CPathIterator fits((dir + VU_T("\\")).c_str());                // 260 with the separator
     EXPECT_FALSE(fits.Done());
-    EXPECT_EQ(std::u16string(fits++), dir);
+    EXPECT_EQ(vu::String(fits++), dir);
 
-    AF_CPathIterator needsSeparator((dir + u"y").c_str()); // 260, no room for the separator
+    AF_CPathIterator needsSeparator((dir + VU_T("y")).c_str()); // 260, no room for the separator
     EXPECT_TRUE(needsSeparator.Done());
-    AF_CPathIterator tooLong((dir + u"yz").c_str());
+    AF_CPathIterator tooLong((dir + VU_T("yz")).c_str());
     EXPECT_TRUE(tooLong.Done());
     EXPECT_EQ(Ascii(tooLong.Current()), "");
     AF_CPathIterator none(nullptr);
@@ -77,10 +77,10 @@ TEST(PathIterator, FitsTheFixedBuffer) {
 }
 
 TEST(PathIterator, CopiesWalkOnTheirOwn) {
-    AF_CPathIterator it(u"c:\\a\\b\\c");
+    AF_CPathIterator it(VU_T("c:\\a\\b\\c"));
     it++;
     AF_CPathIterator copy(it);
-    it.SetPath(u"d:\\x"); // overwrites the original's buffers
+    it.SetPath(VU_T("d:\\x")); // overwrites the original's buffers
     EXPECT_EQ(Ascii(copy.Current()), "c:\\a");
     EXPECT_EQ(Ascii(copy++), "c:\\a\\b");
     AF_CPathIterator assigned;

@@ -9,7 +9,7 @@ namespace {
 std::string Joined(const CStringArray& a) {
     std::string out;
     for (INT_PTR i = 0; i < a.GetSize(); ++i) {
-        for (char16_t c : a[i].View())
+        for (WCHAR c : a[i].View())
             out += static_cast<char>(c);
         out += ' ';
     }
@@ -22,11 +22,11 @@ int CompareNoCase(const CString* a, const CString* b) {
 
 TEST(SortingStringArray, SortsInPlaceWithTheGivenOrder) {
     AF_CSortingStringArray a, b, empty;
-    for (const char16_t* s : {u"b", u"A", u"B", u"a"}) {
+    for (const WCHAR* s : {VU_T("b"), VU_T("A"), VU_T("B"), VU_T("a")}) {
         a.Add(s);
         b.Add(s);
     }
-    a.Add(u"_");
+    a.Add(VU_T("_"));
     a.Sort(&AF_CSortingStringArray::Compare);
     EXPECT_EQ(Joined(a), "A B _ a b ");
     b.Sort(&CompareNoCase); // equal elements keep their order

@@ -56,10 +56,10 @@ TEST(CArray, TheExceptionIsAFrameworkExceptionWithAMessage) {
         IntArray().ElementAt(0) = 1;
         FAIL() << "no exception";
     } catch (const CException& e) {
-        char16_t buf[64] = {};
+        WCHAR buf[64] = {};
         EXPECT_TRUE(e.GetErrorMessage(buf, 64));
         EXPECT_NE(buf[0], 0);
-        char16_t tiny[1] = {u'x'};
+        WCHAR tiny[1] = {VU_T('x')};
         e.GetErrorMessage(tiny, 1);
         EXPECT_EQ(tiny[0], 0); // truncated to the terminator alone
     }
@@ -122,7 +122,7 @@ TEST(CArray, EditsShiftTheTailAndGrowWithZeroes) {
 }
 
 TEST(CArray, AddingAnElementOfTheArrayItselfSurvivesReallocation) {
-    const CString text(u"first element, long enough to live on the heap");
+    const CString text(VU_T("first element, long enough to live on the heap"));
     CStringArray a;
     a.Add(text);
     for (int i = 0; i < 100; ++i)
@@ -138,18 +138,18 @@ TEST(CArray, AddingAnElementOfTheArrayItselfSurvivesReallocation) {
 
 TEST(TypedArrays, StringArrayTakesLiteralsAndKeepsValues) {
     CStringArray a;
-    a.Add(u"b");
-    a.InsertAt(0, CString(u"a"));
-    a.SetAt(1, u"B");
-    a.SetAtGrow(3, u"d");
-    std::u16string joined;
+    a.Add(VU_T("b"));
+    a.InsertAt(0, CString(VU_T("a")));
+    a.SetAt(1, VU_T("B"));
+    a.SetAtGrow(3, VU_T("d"));
+    vu::String joined;
     for (const CString& s : a)
-        joined += std::u16string(s.View()) + u",";
-    EXPECT_EQ(joined, u"a,B,,d,");
-    EXPECT_THROW(a.SetAt(4, u"x"), CInvalidArgException);
+        joined += vu::String(s.View()) + VU_T(",");
+    EXPECT_EQ(joined, VU_T("a,B,,d,"));
+    EXPECT_THROW(a.SetAt(4, VU_T("x")), CInvalidArgException);
     CStringArray copy(a);
-    copy[0] = u"z";
-    EXPECT_EQ(a[0], u"a"); // copies are independent
+    copy[0] = VU_T("z");
+    EXPECT_EQ(a[0], VU_T("a")); // copies are independent
 }
 
 struct Counted : CObject {
@@ -171,7 +171,7 @@ TEST(TypedArrays, ObArrayDoesNotOwnItsObjects) {
     EXPECT_EQ(live, 2);
     // The arrays delete correctly through a CObject pointer.
     CObject* owned = new CStringArray;
-    static_cast<CStringArray*>(owned)->Add(u"x");
+    static_cast<CStringArray*>(owned)->Add(VU_T("x"));
     delete owned;
 }
 

@@ -11,8 +11,8 @@ TEST(CaseMap, AsciiMatchesTheCRuntimeInTheCLocale) {
     // No test calls setlocale, so the C runtime is in the "C" locale.
     for (int c = 0; c < 0x80; ++c) {
         SCOPED_TRACE(c);
-        EXPECT_EQ(vu::ToLower(static_cast<char16_t>(c)), std::tolower(c));
-        EXPECT_EQ(vu::ToUpper(static_cast<char16_t>(c)), std::toupper(c));
+        EXPECT_EQ(vu::ToLower(static_cast<WCHAR>(c)), std::tolower(c));
+        EXPECT_EQ(vu::ToUpper(static_cast<WCHAR>(c)), std::toupper(c));
     }
 }
 
@@ -21,7 +21,7 @@ TEST(CaseMap, AsciiMatchesTheCRuntimeInTheCLocale) {
 TEST(CaseMap, IrregularSimpleMappingsAndTableEdges) {
     struct Row {
         const char* name;
-        char16_t ch, lower, upper;
+        WCHAR ch, lower, upper;
     } rows[] = {
         {"dotted capital I", 0x0130, 0x0069, 0x0130},
         {"dotless small i", 0x0131, 0x0131, 0x0049},
@@ -52,7 +52,7 @@ TEST(CaseMap, EveryMappingStaysALetterOfTheOtherCase) {
     // letter that lowers to the same image: the two tables agree.
     int checked = 0;
     for (unsigned c = 0; c <= 0xFFFF; ++c) {
-        const char16_t lower = vu::ToLower(static_cast<char16_t>(c));
+        const WCHAR lower = vu::ToLower(static_cast<WCHAR>(c));
         if (lower == c)
             continue;
         ++checked;
@@ -65,19 +65,19 @@ TEST(CaseMap, EveryMappingStaysALetterOfTheOtherCase) {
 TEST(CaseMap, CompareNoCaseOrdersByLoweredUnits) {
     struct Row {
         const char* name;
-        std::u16string a, b;
+        vu::String a, b;
         int want;
     } rows[] = {
-        {"equal ascii", u"Hello", u"hELLO", 0},
-        {"prefix shorter first", u"ab", u"ABC", -1},
-        {"underscore before letters", u"_", u"a", -1},
-        {"bracket after lowered Z", u"[", u"Z", -1},
-        {"dotted I equals i", u"\u0130", u"i", 0},
-        {"dotless i is not i", u"\u0131", u"I", 1},
-        {"sharp s is not ss", u"stra\u00DFe", u"STRASSE", 1},
-        {"final sigma is not sigma", u"\u03C2", u"\u03A3", -1},
-        {"empty", u"", u"", 0},
-        {"empty first", u"", u"a", -1},
+        {"equal ascii", VU_T("Hello"), VU_T("hELLO"), 0},
+        {"prefix shorter first", VU_T("ab"), VU_T("ABC"), -1},
+        {"underscore before letters", VU_T("_"), VU_T("a"), -1},
+        {"bracket after lowered Z", VU_T("["), VU_T("Z"), -1},
+        {"dotted I equals i", VU_T("\u0130"), VU_T("i"), 0},
+        {"dotless i is not i", VU_T("\u0131"), VU_T("I"), 1},
+        {"sharp s is not ss", VU_T("stra\u00DFe"), VU_T("STRASSE"), 1},
+        {"final sigma is not sigma", VU_T("\u03C2"), VU_T("\u03A3"), -1},
+        {"empty", VU_T(""), VU_T(""), 0},
+        {"empty first", VU_T(""), VU_T("a"), -1},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -92,8 +92,9 @@ TEST(CaseMap, CompareNoCaseOrdersByLoweredUnits) {
 TEST(CaseMap, EqualNoCaseAgreesWithCompareNoCase) {
     // Pseudo-random strings over an alphabet of both cases, so that many
     // pairs are equal ignoring case.
-    const char16_t alphabet[] = {u'a',   u'A',   u'z',   u'Z',   u'_',   0x00E4, 0x00C4,
-                                 0x03C3, 0x03A3, 0x03C2, 0x0131, 0x0130, u'i',   u'I'};
+    const WCHAR alphabet[] = {VU_T('a'), VU_T('A'), VU_T('z'), VU_T('Z'), VU_T('_'),
+                              0x00E4,    0x00C4,    0x03C3,    0x03A3,    0x03C2,
+                              0x0131,    0x0130,    VU_T('i'), VU_T('I')};
     unsigned x = 7;
     auto next = [&x] {
         x = x * 1664525u + 1013904223u;
@@ -101,13 +102,13 @@ TEST(CaseMap, EqualNoCaseAgreesWithCompareNoCase) {
     };
     int equal = 0;
     for (int i = 0; i < 5000; ++i) {
-        std::u16string a, b;
+        vu::String a, b;
         const unsigned len = next() % 4;
         for (unsigned k = 0; k < len; ++k) {
             const unsigned pick = next() % std::size(alphabet);
             a.push_back(alphabet[pick]);
             // Same letter, case flipped half of the time.
-            const char16_t c = alphabet[pick];
+            const WCHAR c = alphabet[pick];
             b.push_back(next() % 2 ? vu::ToUpper(c) : vu::ToLower(c));
         }
         if (next() % 3 == 0 && !b.empty())

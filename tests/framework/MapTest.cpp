@@ -95,7 +95,7 @@ TEST(CMap, RemovingTheReturnedKeyWhileIteratingVisitsEveryKeyOnce) {
 
 TEST(CMap, OperatorIndexAddsAnEmptyValueForAnyKey) {
     CMap<int, int, CString, const CString&> m;
-    m.SetAt(1, u"one");
+    m.SetAt(1, VU_T("one"));
     EXPECT_TRUE(m[2].IsEmpty()); // added, empty
     EXPECT_EQ(m.GetCount(), 2);
     CMap<int, int, void*, void*> pointers;
@@ -138,17 +138,17 @@ TEST(CMap, LargeMapAgreesWithAReferenceMap) {
 
 TEST(CMap, StringKeysCompareByContentAndCase) {
     CMap<CString, const CString&, int, int> m;
-    m[CString(u"Motor")] = 1;
-    m[CString(u"motor")] = 2;
-    m.SetAt(CString(u"Mo") + u"tor", 3);
+    m[CString(VU_T("Motor"))] = 1;
+    m[CString(VU_T("motor"))] = 2;
+    m.SetAt(CString(VU_T("Mo")) + VU_T("tor"), 3);
     EXPECT_EQ(m.GetCount(), 2);
     int v = 0;
-    EXPECT_TRUE(m.Lookup(CString(u"Motor"), v));
+    EXPECT_TRUE(m.Lookup(CString(VU_T("Motor")), v));
     EXPECT_EQ(v, 3);
-    const auto* pair = m.PLookup(CString(u"motor"));
+    const auto* pair = m.PLookup(CString(VU_T("motor")));
     ASSERT_NE(pair, nullptr);
     EXPECT_EQ(pair->value, 2);
-    EXPECT_EQ(m.PLookup(CString(u"MOTOR")), nullptr);
+    EXPECT_EQ(m.PLookup(CString(VU_T("MOTOR"))), nullptr);
 }
 
 TEST(CMap, EmptyMapAndNullPositionsGiveClearResults) {

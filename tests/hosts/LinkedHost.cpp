@@ -46,8 +46,8 @@ LRESULT CALLBACK ParentProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     return DefWindowProcW(hWnd, message, wParam, lParam);
 }
 
-bool Same(const CString& s, const char16_t* expected) {
-    return std::u16string(s.GetString()) == expected;
+bool Same(const CString& s, const wchar_t* expected) {
+    return std::wstring(s.GetString()) == expected;
 }
 
 } // namespace
@@ -58,8 +58,8 @@ int main() {
           "instance handle is vulib.dll");
 
     CString text;
-    Check(AfxLoadString(2008, text) && Same(text, u"Abbrechen"), "host string 2008 wins");
-    Check(AfxLoadString(2007, text) && Same(text, u"OK"), "library string 2007 found after host");
+    Check(AfxLoadString(2008, text) && Same(text, L"Abbrechen"), "host string 2008 wins");
+    Check(AfxLoadString(2007, text) && Same(text, L"OK"), "library string 2007 found after host");
 
     WNDCLASSW wc{};
     wc.lpfnWndProc = ParentProc;

@@ -17,11 +17,11 @@ using RegExpressionTestSupport::Show;
 // tried from 0 to the terminating NUL, without any search hint.
 class ReferenceMatcher {
 public:
-    explicit ReferenceMatcher(const char16_t* program) : m_program(program) {}
+    explicit ReferenceMatcher(const WCHAR* program) : m_program(program) {}
 
-    int Find(const char16_t* s) {
+    int Find(const WCHAR* s) {
         m_bol = s;
-        for (const char16_t* p = s;; ++p) {
+        for (const WCHAR* p = s;; ++p) {
             if (Try(p))
                 return int(p - s);
             if (!*p)
@@ -34,21 +34,21 @@ public:
 private:
     using R = VU_CRegExpression;
 
-    static const char16_t* Next(const char16_t* p) {
+    static const WCHAR* Next(const WCHAR* p) {
         const uint32_t link = R::ReadLink(p);
         if (!link)
             return nullptr;
         return *p == R::OpLoopBack ? p - link : p + link;
     }
-    static const char16_t* Operand(const char16_t* p) { return p + 3; }
-    static bool InList(const char16_t* list, char16_t c) {
+    static const WCHAR* Operand(const WCHAR* p) { return p + 3; }
+    static bool InList(const WCHAR* list, WCHAR c) {
         for (; *list; ++list)
             if (*list == c)
                 return true;
         return false;
     }
 
-    bool Try(const char16_t* p) {
+    bool Try(const WCHAR* p) {
         m_input = p;
         for (int i = 0; i < 10; ++i)
             m_start[i] = m_end[i] = nullptr;
@@ -59,8 +59,8 @@ private:
         return true;
     }
 
-    size_t Repeat(const char16_t* node) const {
-        const char16_t* s = m_input;
+    size_t Repeat(const WCHAR* node) const {
+        const WCHAR* s = m_input;
         size_t n = 0;
         switch (*node) {
         case R::OpAnyChar:
@@ -83,10 +83,10 @@ private:
         return n;
     }
 
-    bool Match(const char16_t* scan) {
+    bool Match(const WCHAR* scan) {
         while (scan) {
-            const char16_t* next = Next(scan);
-            const char16_t op = *scan;
+            const WCHAR* next = Next(scan);
+            const WCHAR op = *scan;
             switch (op) {
             case R::OpAtStart:
                 if (m_input != m_bol)
@@ -108,7 +108,7 @@ private:
                 ++m_input;
                 break;
             case R::OpLiteral: {
-                const char16_t* lit = Operand(scan);
+                const WCHAR* lit = Operand(scan);
                 for (; *lit; ++lit, ++m_input)
                     if (*lit != *m_input)
                         return false;
@@ -123,7 +123,7 @@ private:
                     break;
                 }
                 do {
-                    const char16_t* save = m_input;
+                    const WCHAR* save = m_input;
                     if (Match(Operand(scan)))
                         return true;
                     m_input = save;
@@ -132,9 +132,9 @@ private:
                 return false;
             case R::OpStar:
             case R::OpPlus: {
-                const char16_t nextCh = next && *next == R::OpLiteral ? *Operand(next) : 0;
+                const WCHAR nextCh = next && *next == R::OpLiteral ? *Operand(next) : 0;
                 const long minimum = op == R::OpStar ? 0 : 1;
-                const char16_t* save = m_input;
+                const WCHAR* save = m_input;
                 for (long k = long(Repeat(Operand(scan))); k >= minimum; --k) {
                     m_input = save + k;
                     if ((!nextCh || *m_input == nextCh) && Match(next))
@@ -146,7 +146,7 @@ private:
                 return true;
             default:
                 if (op > R::OpGroupOpen && op < R::OpGroupOpen + 10) {
-                    const char16_t* save = m_input;
+                    const WCHAR* save = m_input;
                     if (!Match(next))
                         return false;
                     if (!m_start[op - R::OpGroupOpen])
@@ -154,7 +154,7 @@ private:
                     return true;
                 }
                 if (op > R::OpGroupClose && op < R::OpGroupClose + 10) {
-                    const char16_t* save = m_input;
+                    const WCHAR* save = m_input;
                     if (!Match(next))
                         return false;
                     if (!m_end[op - R::OpGroupClose])
@@ -168,24 +168,24 @@ private:
         return false;
     }
 
-    const char16_t* m_program;
-    const char16_t* m_bol = nullptr;
-    const char16_t* m_input = nullptr;
-    const char16_t* m_start[10] = {};
-    const char16_t* m_end[10] = {};
+    const WCHAR* m_program;
+    const WCHAR* m_bol = nullptr;
+    const WCHAR* m_input = nullptr;
+    const WCHAR* m_start[10] = {};
+    const WCHAR* m_end[10] = {};
 };
 
 TEST(RegExpressionMatcher, AgreesWithTheRecursiveReference) {
     RegExpressionPatternGenerator gen(20240611);
     int compared = 0, matched = 0, failures = 0;
     for (int i = 0; i < 4000 && failures < 10; ++i) {
-        const std::u16string pattern = gen.Pattern();
+        const vu::String pattern = gen.Pattern();
         VU_CRegExpression re;
         if (!re.RegComp(pattern.c_str()))
             continue;
         ReferenceMatcher reference(re.GetProgram());
         for (int t = 0; t < 8; ++t) {
-            const std::u16string text = gen.Text(12);
+            const vu::String text = gen.Text(12);
             const int expected = reference.Find(text.c_str());
             const int found = re.RegFind(text.c_str());
             ++compared;
@@ -215,14 +215,15 @@ TEST(RegExpressionMatcher, AgreesWithTheRecursiveReference) {
 TEST(RegExpressionMatcher, AgreesWithTheReferenceWhereChoicesLieFarApart) {
     // Choices and group boundaries far from the previous record exercise the
     // long-distance form of the backtracking records.
-    const char16_t* patterns[] = {u"a?c*d?e",         u"(c*)(d|dc)a", u"x*(c+)(d|dd)b",
-                                  u"([abc]*)(a|b)*d", u"(.)*-(a|b)?", u"b?[^d]*(d|da)+"};
+    const WCHAR* patterns[] = {VU_T("a?c*d?e"),       VU_T("(c*)(d|dc)a"),
+                               VU_T("x*(c+)(d|dd)b"), VU_T("([abc]*)(a|b)*d"),
+                               VU_T("(.)*-(a|b)?"),   VU_T("b?[^d]*(d|da)+")};
     // Backtracking over a choice 20 units above the record below it.
-    const std::u16string c20(20, u'c');
-    const std::pair<std::u16string, std::u16string> pairs[] = {
-        {u"(a?)" + c20 + u"d?(e|dx)", u"a" + c20 + u"dx"},
-        {u"(a?)" + c20 + u"d?(e|dx)", u"-" + c20 + u"dx"},
-        {u"(b|a)" + c20 + u"(d|dx)?y", u"a" + c20 + u"dxy"},
+    const vu::String c20(20, VU_T('c'));
+    const std::pair<vu::String, vu::String> pairs[] = {
+        {VU_T("(a?)") + c20 + VU_T("d?(e|dx)"), VU_T("a") + c20 + VU_T("dx")},
+        {VU_T("(a?)") + c20 + VU_T("d?(e|dx)"), VU_T("-") + c20 + VU_T("dx")},
+        {VU_T("(b|a)") + c20 + VU_T("(d|dx)?y"), VU_T("a") + c20 + VU_T("dxy")},
     };
     for (const auto& [pattern, text] : pairs) {
         SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
@@ -238,13 +239,13 @@ TEST(RegExpressionMatcher, AgreesWithTheReferenceWhereChoicesLieFarApart) {
         }
     }
     RegExpressionPatternGenerator gen(5);
-    for (const char16_t* pattern : patterns) {
+    for (const WCHAR* pattern : patterns) {
         VU_CRegExpression re;
         ASSERT_NE(re.RegComp(pattern), nullptr);
         ReferenceMatcher reference(re.GetProgram());
         for (int t = 0; t < 300; ++t) {
-            std::u16string text = gen.Text(60);
-            text.insert(gen.Below(text.size() + 1), std::u16string(gen.Below(40), u'c'));
+            vu::String text = gen.Text(60);
+            text.insert(gen.Below(text.size() + 1), vu::String(gen.Below(40), VU_T('c')));
             SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
             const int expected = reference.Find(text.c_str());
             ASSERT_EQ(re.RegFind(text.c_str()), expected);
@@ -260,8 +261,8 @@ TEST(RegExpressionMatcher, AgreesWithTheReferenceWhereChoicesLieFarApart) {
 
 constexpr size_t kUnits = 5 * 1024 * 1024; // 10 MB of UTF-16
 
-std::u16string Repeat(std::u16string_view unit, size_t units) {
-    std::u16string s;
+vu::String Repeat(vu::StringView unit, size_t units) {
+    vu::String s;
     s.reserve(units + unit.size());
     while (s.size() + unit.size() <= units)
         s += unit;
@@ -269,26 +270,28 @@ std::u16string Repeat(std::u16string_view unit, size_t units) {
 }
 
 TEST(RegExpressionMatcher, LongSubjectsDoNotExhaustTheStack) {
-    std::u16string mixed(kUnits, u'a');
+    vu::String mixed(kUnits, VU_T('a'));
     for (size_t i = 0; i < mixed.size(); ++i)
-        mixed[i] = (i * 2654435761u >> 7) & 1 ? u'a' : u'b';
+        mixed[i] = (i * 2654435761u >> 7) & 1 ? VU_T('a') : VU_T('b');
     struct Row {
         const char* name;
-        const char16_t* pattern;
-        std::u16string text;
+        const WCHAR* pattern;
+        vu::String text;
         int index, length, groupStart, groupEnd;
     } rows[] = {
-        {"(ab)*", u"(ab)*", Repeat(u"ab", kUnits), 0, int(kUnits), int(kUnits) - 2, int(kUnits)},
-        {"(a|b)*c", u"(a|b)*c", mixed + u"c", 0, int(kUnits) + 1, int(kUnits) - 1, int(kUnits)},
-        {"(xy?)+", u"(xy?)+", Repeat(u"xyx", kUnits - 2), 0, int(kUnits - 2) / 3 * 3,
+        {"(ab)*", VU_T("(ab)*"), Repeat(VU_T("ab"), kUnits), 0, int(kUnits), int(kUnits) - 2,
+         int(kUnits)},
+        {"(a|b)*c", VU_T("(a|b)*c"), mixed + VU_T("c"), 0, int(kUnits) + 1, int(kUnits) - 1,
+         int(kUnits)},
+        {"(xy?)+", VU_T("(xy?)+"), Repeat(VU_T("xyx"), kUnits - 2), 0, int(kUnits - 2) / 3 * 3,
          int(kUnits - 2) / 3 * 3 - 1, int(kUnits - 2) / 3 * 3},
-        {"(ab)*c backtracks", u"(ab)*abc", Repeat(u"ab", kUnits) + u"c", 0, int(kUnits) + 1,
-         int(kUnits) - 4, int(kUnits) - 2},
-        {".*z at the end", u"(.)*z", mixed + u"z", 0, int(kUnits) + 1, int(kUnits) - 1,
+        {"(ab)*c backtracks", VU_T("(ab)*abc"), Repeat(VU_T("ab"), kUnits) + VU_T("c"), 0,
+         int(kUnits) + 1, int(kUnits) - 4, int(kUnits) - 2},
+        {".*z at the end", VU_T("(.)*z"), mixed + VU_T("z"), 0, int(kUnits) + 1, int(kUnits) - 1,
          int(kUnits)},
         // A group boundary more than 2^25 units after the previous record.
-        {"far boundary", u"(a)[^z]*(z)", Repeat(u"ab", 7 * kUnits) + u"z", 0, int(7 * kUnits) + 1,
-         0, 1},
+        {"far boundary", VU_T("(a)[^z]*(z)"), Repeat(VU_T("ab"), 7 * kUnits) + VU_T("z"), 0,
+         int(7 * kUnits) + 1, 0, 1},
     };
     for (Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -303,9 +306,9 @@ TEST(RegExpressionMatcher, LongSubjectsDoNotExhaustTheStack) {
 
 TEST(RegExpressionMatcher, LongRunsUnderAStepBudget) {
     // A budget large enough for a linear scan lets the search finish.
-    const std::u16string text = Repeat(u"ab", kUnits) + u"c";
+    const vu::String text = Repeat(VU_T("ab"), kUnits) + VU_T("c");
     VU_CRegExpression re;
-    ASSERT_NE(re.RegComp(u"(ab)*c"), nullptr);
+    ASSERT_NE(re.RegComp(VU_T("(ab)*c")), nullptr);
     re.SetStepLimit(100 * kUnits);
     EXPECT_EQ(re.RegFind(text.c_str()), 0);
     EXPECT_FALSE(re.IsStepLimitExceeded());

@@ -5,6 +5,7 @@
 // alphabets so that matches are frequent, every construct of the dialect,
 // occasionally an invalid pattern).
 
+#include "framework/Char.h"
 #include <cstdint>
 #include <cstdio>
 #include <random>
@@ -14,9 +15,9 @@
 namespace RegExpressionTestSupport {
 
 // ASCII as is, other units as \uXXXX.
-inline std::string Show(std::u16string_view s) {
+inline std::string Show(vu::StringView s) {
     std::string out;
-    for (char16_t c : s) {
+    for (WCHAR c : s) {
         if (c >= 0x20 && c < 0x7F) {
             out.push_back(static_cast<char>(c));
         } else {
@@ -34,16 +35,16 @@ class RegExpressionPatternGenerator {
 public:
     explicit RegExpressionPatternGenerator(uint32_t seed) : m_random(seed) {}
 
-    std::u16string Pattern() {
+    vu::String Pattern() {
         m_groups = 0;
         return Alternation(0);
     }
 
     // A text over a..d with a few specials, 0..maxLength units.
-    std::u16string Text(size_t maxLength) {
-        static const char16_t kUnits[] = u"aaaabbbbccd-]\n.";
-        std::u16string text(Below(maxLength + 1), u'a');
-        for (char16_t& c : text)
+    vu::String Text(size_t maxLength) {
+        static const WCHAR kUnits[] = VU_T("aaaabbbbccd-]\n.");
+        vu::String text(Below(maxLength + 1), VU_T('a'));
+        for (WCHAR& c : text)
             c = kUnits[Below(sizeof kUnits / sizeof kUnits[0] - 1)];
         return text;
     }
@@ -52,95 +53,95 @@ public:
     bool Chance(int percent) { return int(Below(100)) < percent; }
 
 private:
-    std::u16string Alternation(int depth) {
-        std::u16string s = Branch(depth);
+    vu::String Alternation(int depth) {
+        vu::String s = Branch(depth);
         while (Chance(depth == 0 ? 25 : 30)) {
-            s += u'|';
+            s += VU_T('|');
             s += Branch(depth);
         }
         return s;
     }
 
-    std::u16string Branch(int depth) {
-        std::u16string s;
+    vu::String Branch(int depth) {
+        vu::String s;
         const size_t pieces = Below(depth == 0 ? 5 : 4);
         for (size_t i = 0; i < pieces; ++i)
             s += Piece(depth);
         return s;
     }
 
-    std::u16string Piece(int depth) {
-        std::u16string s = Atom(depth);
+    vu::String Piece(int depth) {
+        vu::String s = Atom(depth);
         const size_t r = Below(100);
         if (r < 15)
-            s += u'*';
+            s += VU_T('*');
         else if (r < 28)
-            s += u'+';
+            s += VU_T('+');
         else if (r < 40)
-            s += u'?';
+            s += VU_T('?');
         return s;
     }
 
-    std::u16string Atom(int depth) {
+    vu::String Atom(int depth) {
         const size_t r = Below(100);
         if (r < 40)
-            return std::u16string(1, Letter());
+            return vu::String(1, Letter());
         if (r < 50) {
-            std::u16string two(1, Letter());
+            vu::String two(1, Letter());
             two += Letter();
             return two;
         }
         if (r < 57)
-            return u".";
+            return VU_T(".");
         if (r < 70)
             return Set();
         if (r < 84 && depth < 3 && m_groups < 9) {
             ++m_groups;
-            std::u16string group = u"(";
+            vu::String group = VU_T("(");
             group += Alternation(depth + 1);
-            group += u')';
+            group += VU_T(')');
             return group;
         }
         if (r < 88)
-            return u"^";
+            return VU_T("^");
         if (r < 92)
-            return u"$";
-        static const char16_t kEscaped[] = u"abd.*+?()[]|^$\\-{";
-        std::u16string escape = u"\\";
+            return VU_T("$");
+        static const WCHAR kEscaped[] = VU_T("abd.*+?()[]|^$\\-{");
+        vu::String escape = VU_T("\\");
         escape += kEscaped[Below(sizeof kEscaped / 2 - 1)];
         return escape;
     }
 
-    std::u16string Set() {
-        static const char16_t kMembers[] = u"abcd-]^.\\";
-        std::u16string s = u"[";
+    vu::String Set() {
+        static const WCHAR kMembers[] = VU_T("abcd-]^.\\");
+        vu::String s = VU_T("[");
         if (Chance(30))
-            s += u'^';
+            s += VU_T('^');
         if (Chance(10))
-            s += Chance(50) ? u']' : u'-';
+            s += Chance(50) ? VU_T(']') : VU_T('-');
         const size_t members = 1 + Below(3);
         for (size_t i = 0; i < members; ++i) {
             if (Chance(25)) {
-                const char16_t lo = char16_t(u'a' + Below(3));
+                const WCHAR lo = WCHAR(VU_T('a') + Below(3));
                 s += lo;
-                s += u'-';
-                s += char16_t(lo + Below(3));
+                s += VU_T('-');
+                s += WCHAR(lo + Below(3));
             } else {
-                char16_t c = kMembers[Below(sizeof kMembers / 2 - 1)];
-                if (c == u']')
-                    c = u'b'; // only first, where it is a member
+                WCHAR c = kMembers[Below(sizeof kMembers / 2 - 1)];
+                if (c == VU_T(']'))
+                    c = VU_T('b'); // only first, where it is a member
                 s += c;
             }
         }
         if (Chance(10))
-            s += u'-';
+            s += VU_T('-');
         if (!Chance(3))
-            s += u']';
+            s += VU_T(']');
         return s;
     }
 
-    char16_t Letter() {
-        static const char16_t kLetters[] = u"aaabbbcd-]{\n";
+    WCHAR Letter() {
+        static const WCHAR kLetters[] = VU_T("aaabbbcd-]{\n");
         return kLetters[Below(sizeof kLetters / 2 - 1)];
     }
 

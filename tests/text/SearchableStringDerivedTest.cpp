@@ -14,9 +14,9 @@ namespace {
 
 using S = VU_CSearchableString;
 
-std::string Show(std::u16string_view s) {
+std::string Show(vu::StringView s) {
     std::string out;
-    for (char16_t c : s)
+    for (WCHAR c : s)
         out.push_back(c < 0x80 ? static_cast<char>(c) : '?');
     return out;
 }
@@ -24,7 +24,7 @@ std::string Show(std::u16string_view s) {
 enum Kind { Exact, NoCase, RegExp };
 
 // Replaces through the base class, as a user of the base class would.
-int Replace(S& s, Kind kind, const char16_t* find, const char16_t* by, BOOL all) {
+int Replace(S& s, Kind kind, const WCHAR* find, const WCHAR* by, BOOL all) {
     if (kind == Exact)
         return s.FindReplace(find, by, all, FALSE);
     if (kind == NoCase)
@@ -45,25 +45,25 @@ public:
     std::string replacements; // "(index,count,text)" per call
     std::vector<std::string> calls;
 
-    S& ReplaceAt(int index, int count, const char16_t* text) override {
+    S& ReplaceAt(int index, int count, const WCHAR* text) override {
         replacements += '(';
         replacements += std::to_string(index) + ',' + std::to_string(count) + ',';
-        replacements += Show(text ? text : u"") + ')';
+        replacements += Show(text ? text : VU_T("")) + ')';
         return S::ReplaceAt(index, count, text);
     }
-    S& InsertAt(int index, const char16_t* text) override {
+    S& InsertAt(int index, const WCHAR* text) override {
         calls.push_back("InsertAt(" + std::to_string(index) + "," + Show(text) + ")");
         return S::InsertAt(index, text);
     }
-    int Find(char16_t ch, int start, BOOL wholeWord) override {
-        calls.push_back("Find(" + Show(std::u16string(1, ch)) + "," + std::to_string(start) + ")");
+    int Find(WCHAR ch, int start, BOOL wholeWord) override {
+        calls.push_back("Find(" + Show(vu::String(1, ch)) + "," + std::to_string(start) + ")");
         return S::Find(ch, start, wholeWord);
     }
-    int ReverseFindNoCase(const char16_t* text, int start, BOOL wholeWord) override {
+    int ReverseFindNoCase(const WCHAR* text, int start, BOOL wholeWord) override {
         calls.push_back("ReverseFindNoCase(" + Show(text) + "," + std::to_string(start) + ")");
         return S::ReverseFindNoCase(text, start, wholeWord);
     }
-    int GetFieldCount(const char16_t* delimiter) override {
+    int GetFieldCount(const WCHAR* delimiter) override {
         calls.push_back("GetFieldCount(" + Show(delimiter) + ")");
         return S::GetFieldCount(delimiter);
     }
@@ -74,7 +74,7 @@ class PlainDerived : public S {
 public:
     using S::IsReplaceAtOverridden;
     using S::S;
-    int FindN(char16_t ch, int from, int to, BOOL wholeWord) override {
+    int FindN(WCHAR ch, int from, int to, BOOL wholeWord) override {
         return S::FindN(ch, from, to, wholeWord);
     }
 };
@@ -85,7 +85,7 @@ class OneAtATime : public S {
 public:
     using S::IsReplaceAtOverridden;
     using S::S;
-    S& ReplaceAt(int index, int count, const char16_t* text) override {
+    S& ReplaceAt(int index, int count, const WCHAR* text) override {
         ++calls;
         return S::ReplaceAt(index, count, text);
     }
@@ -98,19 +98,19 @@ struct Probe : S {
 };
 
 TEST(SearchableStringDerived, DetectsAnOverriddenReplaceAt) {
-    EXPECT_FALSE(Probe(u"x").IsReplaceAtOverridden()) << "own class";
-    EXPECT_FALSE(PlainDerived(u"x").IsReplaceAtOverridden()) << "derived, ReplaceAt untouched";
-    EXPECT_TRUE(OneAtATime(u"x").IsReplaceAtOverridden()) << "derived, ReplaceAt overridden";
-    EXPECT_TRUE(Recorder(u"x").IsReplaceAtOverridden());
+    EXPECT_FALSE(Probe(VU_T("x")).IsReplaceAtOverridden()) << "own class";
+    EXPECT_FALSE(PlainDerived(VU_T("x")).IsReplaceAtOverridden()) << "derived, ReplaceAt untouched";
+    EXPECT_TRUE(OneAtATime(VU_T("x")).IsReplaceAtOverridden()) << "derived, ReplaceAt overridden";
+    EXPECT_TRUE(Recorder(VU_T("x")).IsReplaceAtOverridden());
 }
 
 TEST(SearchableStringDerived, CharacterFormsCallTheTextFormsThroughTheTable) {
-    Recorder r(u"aXbx");
+    Recorder r(VU_T("aXbx"));
     S& s = r;
-    s.InsertAt(1, u'z');
-    EXPECT_EQ(s.ReverseFindNoCase(u'x', -1, FALSE), 4);
-    EXPECT_EQ(s.GetFieldCount(u'x'), 2);
-    EXPECT_EQ(s.FindNoCase(u'X', 0, FALSE), 2);
+    s.InsertAt(1, VU_T('z'));
+    EXPECT_EQ(s.ReverseFindNoCase(VU_T('x'), -1, FALSE), 4);
+    EXPECT_EQ(s.GetFieldCount(VU_T('x')), 2);
+    EXPECT_EQ(s.FindNoCase(VU_T('X'), 0, FALSE), 2);
     const std::vector<std::string> expected = {"InsertAt(1,z)", "ReverseFindNoCase(x,-1)",
                                                "GetFieldCount(x)", "Find(x,0)", "Find(X,0)"};
     EXPECT_EQ(r.calls, expected);
@@ -120,19 +120,22 @@ TEST(SearchableStringDerived, EveryReplacementGoesThroughReplaceAt) {
     const struct {
         const char* name;
         Kind kind;
-        const char16_t *text, *find, *by;
+        const WCHAR *text, *find, *by;
         BOOL all;
         int count;
         std::string replacements, result;
     } rows[] = {
-        {"exact, all", Exact, u"aba", u"a", u"aa", TRUE, 2, "(0,1,aa)(3,1,aa)", "aabaa"},
-        {"exact, first", Exact, u"aba", u"a", u"aa", FALSE, 1, "(0,1,aa)", "aaba"},
-        {"no case, shifts", NoCase, u"aAa", u"A", u"xy", TRUE, 3, "(0,1,xy)(2,1,xy)(4,1,xy)",
-         "xyxyxy"},
-        {"no case, shrinking", NoCase, u"ABcAB", u"ab", u"", TRUE, 2, "(0,2,)(1,2,)", "c"},
-        {"expression, literal", RegExp, u"abbcb", u"b+", u"&", TRUE, 2, "(1,2,&)(3,1,&)", "a&c&"},
-        {"expression, empty matches", RegExp, u"ab", u"x*", u"-", TRUE, 3, "(0,0,-)(2,0,-)(4,0,-)",
-         "-a-b-"},
+        {"exact, all", Exact, VU_T("aba"), VU_T("a"), VU_T("aa"), TRUE, 2, "(0,1,aa)(3,1,aa)",
+         "aabaa"},
+        {"exact, first", Exact, VU_T("aba"), VU_T("a"), VU_T("aa"), FALSE, 1, "(0,1,aa)", "aaba"},
+        {"no case, shifts", NoCase, VU_T("aAa"), VU_T("A"), VU_T("xy"), TRUE, 3,
+         "(0,1,xy)(2,1,xy)(4,1,xy)", "xyxyxy"},
+        {"no case, shrinking", NoCase, VU_T("ABcAB"), VU_T("ab"), VU_T(""), TRUE, 2, "(0,2,)(1,2,)",
+         "c"},
+        {"expression, literal", RegExp, VU_T("abbcb"), VU_T("b+"), VU_T("&"), TRUE, 2,
+         "(1,2,&)(3,1,&)", "a&c&"},
+        {"expression, empty matches", RegExp, VU_T("ab"), VU_T("x*"), VU_T("-"), TRUE, 3,
+         "(0,0,-)(2,0,-)(4,0,-)", "-a-b-"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -145,28 +148,28 @@ TEST(SearchableStringDerived, EveryReplacementGoesThroughReplaceAt) {
 
 // ---- One pass against one replacement at a time ------------------------------
 
-std::u16string RandomText(std::mt19937& rng, int maxLength, std::u16string_view alphabet) {
+vu::String RandomText(std::mt19937& rng, int maxLength, vu::StringView alphabet) {
     std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
-    std::u16string s(std::uniform_int_distribution<int>(0, maxLength)(rng), u' ');
-    for (char16_t& c : s)
+    vu::String s(std::uniform_int_distribution<int>(0, maxLength)(rng), VU_T(' '));
+    for (WCHAR& c : s)
         c = alphabet[pick(rng)];
     return s;
 }
 
 TEST(SearchableStringDerived, OnePassReplaceAllMatchesOneAtATime) {
     std::mt19937 rng(20240611);
-    const std::u16string alphabet = u"aAbB \u00E4\u00C4\u212Ak";
-    const char16_t* patterns[] = {u"a",      u"ab",    u"a*",  u"b+",  u"^a",  u"a$",
-                                  u"(a|b)b", u"[ab]*", u".",   u"x*",  u"",    u"^",
-                                  u"$",      u"a?b?",  u"\\a", u"(ab", u"k+a", u"\u00E4+"};
+    const vu::String alphabet = VU_T("aAbB \u00E4\u00C4\u212Ak");
+    const WCHAR* patterns[] = {
+        VU_T("a"),      VU_T("ab"),    VU_T("a*"),  VU_T("b+"),  VU_T("^a"),  VU_T("a$"),
+        VU_T("(a|b)b"), VU_T("[ab]*"), VU_T("."),   VU_T("x*"),  VU_T(""),    VU_T("^"),
+        VU_T("$"),      VU_T("a?b?"),  VU_T("\\a"), VU_T("(ab"), VU_T("k+a"), VU_T("\u00E4+")};
     for (int round = 0; round < 3000; ++round) {
-        const std::u16string text = RandomText(rng, 40, alphabet);
+        const vu::String text = RandomText(rng, 40, alphabet);
         // Mostly short finds so that they occur; sometimes empty.
-        const std::u16string find = RandomText(rng, 3, alphabet);
-        const std::u16string by = RandomText(rng, 4, alphabet);
+        const vu::String find = RandomText(rng, 3, alphabet);
+        const vu::String by = RandomText(rng, 4, alphabet);
         const Kind kind = static_cast<Kind>(round % 3);
-        const char16_t* what =
-            kind == RegExp ? patterns[round % std::size(patterns)] : find.c_str();
+        const WCHAR* what = kind == RegExp ? patterns[round % std::size(patterns)] : find.c_str();
         S fast(text.c_str());
         OneAtATime slow(text.c_str());
         const int fastCount = Replace(fast, kind, what, by.c_str(), TRUE);
@@ -186,15 +189,15 @@ TEST(SearchableStringDerived, ReplaceAllOnALongTextIsLinear) {
     // 2M characters with 400k matches: the one-pass path finishes in well
     // under a second where one replacement at a time would copy the text
     // 400k times.
-    std::u16string text;
+    vu::String text;
     for (int i = 0; i < 400000; ++i)
-        text += u"ab cd";
+        text += VU_T("ab cd");
     S s(text.c_str());
-    EXPECT_EQ(s.FindReplace(u"cd", u"xyz", TRUE, FALSE), 400000);
+    EXPECT_EQ(s.FindReplace(VU_T("cd"), VU_T("xyz"), TRUE, FALSE), 400000);
     EXPECT_EQ(s.GetLength(), 400000 * 6);
-    EXPECT_EQ(s.FindReplaceNoCase(u"XYZ", u"", TRUE, FALSE), 400000);
+    EXPECT_EQ(s.FindReplaceNoCase(VU_T("XYZ"), VU_T(""), TRUE, FALSE), 400000);
     EXPECT_EQ(s.GetLength(), 400000 * 3);
-    EXPECT_EQ(s.FindReplaceRegularExp(u"b ", u"", TRUE), 400000);
+    EXPECT_EQ(s.FindReplaceRegularExp(VU_T("b "), VU_T(""), TRUE), 400000);
     EXPECT_EQ(s.GetLength(), 400000);
 }
 

@@ -13,9 +13,9 @@
 
 namespace {
 
-using Text = std::u16string;
+using Text = vu::String;
 
-bool IsDelimiter(char16_t c) {
+bool IsDelimiter(WCHAR c) {
     return Text(VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS).find(c) != Text::npos;
 }
 
@@ -62,10 +62,10 @@ int ReferenceReverseFind(const Text& s, const Text& f, int start, bool wholeWord
     return -1;
 }
 
-Text Random(std::mt19937& rng, int length, std::u16string_view alphabet) {
+Text Random(std::mt19937& rng, int length, vu::StringView alphabet) {
     std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
-    Text s(length, u' ');
-    for (char16_t& c : s)
+    Text s(length, VU_T(' '));
+    for (WCHAR& c : s)
         c = alphabet[pick(rng)];
     return s;
 }
@@ -74,7 +74,7 @@ TEST(SearchableStringScan, AgreesWithReferenceLoops) {
     std::mt19937 rng(77);
     // Letters in both cases, delimiters, characters whose lower case is an
     // ASCII letter (KELVIN SIGN) and other non-ASCII letters.
-    const std::u16string_view alphabet = u"aaabAB -.\u212Ak\u00E4\u00C4";
+    const vu::StringView alphabet = VU_T("aaabAB -.\u212Ak\u00E4\u00C4");
     for (int round = 0; round < 400 && !HasFailure(); ++round) {
         const int length = std::uniform_int_distribution<int>(0, 70)(rng);
         const Text text = Random(rng, length, alphabet);
@@ -98,11 +98,11 @@ TEST(SearchableStringScan, AgreesWithReferenceLoops) {
 
 TEST(SearchableStringScan, CharacterSearchesAgreeWithReferenceLoops) {
     std::mt19937 rng(78);
-    const std::u16string_view alphabet = u"abAB ,\u212Ak";
+    const vu::StringView alphabet = VU_T("abAB ,\u212Ak");
     for (int round = 0; round < 300 && !HasFailure(); ++round) {
         const int length = std::uniform_int_distribution<int>(0, 50)(rng);
         const Text text = Random(rng, length, alphabet);
-        const char16_t ch = alphabet[round % alphabet.size()];
+        const WCHAR ch = alphabet[round % alphabet.size()];
         VU_CSearchableString s(text.c_str());
         SCOPED_TRACE("round " + std::to_string(round));
         // npos converts to -1 (C++20 integral conversion is modular).

@@ -14,9 +14,9 @@ namespace {
 using S = VU_CSearchableString;
 
 // ASCII as is, other units as \uXXXX, so failures print readably.
-std::string Show(std::u16string_view s) {
+std::string Show(vu::StringView s) {
     std::string out;
-    for (char16_t c : s) {
+    for (WCHAR c : s) {
         char buf[8];
         std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
         out += (c >= 0x20 && c < 0x7F) ? std::string(1, static_cast<char>(c)) : buf;
@@ -27,23 +27,23 @@ std::string Show(std::u16string_view s) {
 // ---- Construction ---------------------------------------------------------
 
 TEST(SearchableStringConstruction, EveryFormBuildsTheTextAndDefaultDelimiters) {
-    const std::u16string defaults = u" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~";
+    const vu::String defaults = VU_T(" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~");
     ASSERT_EQ(defaults.size(), 28u);
     const unsigned char bytes[] = {'a', 0xE9, 0};
     struct Row {
         const char* name;
         S s;
-        std::u16string text;
+        vu::String text;
     } rows[] = {
-        {"empty", S(), u""},
-        {"framework string", S(CString(u"abc")), u"abc"},
-        {"repeat", S(u'x', 3), u"xxx"},
-        {"text and length", S(u"abcdef", 4), u"abcd"},
-        {"null text and length", S(nullptr, 4), u""},
-        {"unsigned 8-bit", S(bytes), u"a\u00E9"},
-        {"16-bit", S(u"h\u00E9llo"), u"h\u00E9llo"},
-        {"16-bit null", S(static_cast<const char16_t*>(nullptr)), u""},
-        {"8-bit", S("plain"), u"plain"},
+        {"empty", S(), VU_T("")},
+        {"framework string", S(CString(VU_T("abc"))), VU_T("abc")},
+        {"repeat", S(VU_T('x'), 3), VU_T("xxx")},
+        {"text and length", S(VU_T("abcdef"), 4), VU_T("abcd")},
+        {"null text and length", S(nullptr, 4), VU_T("")},
+        {"unsigned 8-bit", S(bytes), VU_T("a\u00E9")},
+        {"16-bit", S(VU_T("h\u00E9llo")), VU_T("h\u00E9llo")},
+        {"16-bit null", S(static_cast<const WCHAR*>(nullptr)), VU_T("")},
+        {"8-bit", S("plain"), VU_T("plain")},
     };
     for (auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -53,16 +53,16 @@ TEST(SearchableStringConstruction, EveryFormBuildsTheTextAndDefaultDelimiters) {
 }
 
 TEST(SearchableStringConstruction, CopyTakesDelimitersAndPattern) {
-    S a(u"x1y22");
-    a.SetTokenDelimiters(u"1");
-    ASSERT_EQ(a.FindRegularExp(u"2+"), 3);
+    S a(VU_T("x1y22"));
+    a.SetTokenDelimiters(VU_T("1"));
+    ASSERT_EQ(a.FindRegularExp(VU_T("2+")), 3);
     S copied(a);
     S assigned;
     assigned = a;
     for (S* s : {&copied, &assigned}) {
         EXPECT_EQ(Show(s->GetTokenDelimiters().View()), "1");
         // A pattern that fails to compile leaves the copied one in use.
-        EXPECT_EQ(s->FindRegularExp(u"(", 0), 3);
+        EXPECT_EQ(s->FindRegularExp(VU_T("("), 0), 3);
     }
 }
 
@@ -70,7 +70,7 @@ TEST(SearchableStringConstruction, CopyTakesDelimitersAndPattern) {
 
 // op: F Find, N FindNoCase, R ReverseFind (text forms); f Find, n FindNoCase,
 //     q ReverseFindNoCase with the needle's first character.
-int Search(S& s, char op, const char16_t* find, int start, BOOL wholeWord) {
+int Search(S& s, char op, const WCHAR* find, int start, BOOL wholeWord) {
     return op == 'F'   ? s.Find(find, start, wholeWord)
            : op == 'N' ? s.FindNoCase(find, start, wholeWord)
            : op == 'R' ? s.ReverseFind(find, start, wholeWord)
@@ -83,30 +83,31 @@ TEST(SearchableStringFind, Rules) {
     const struct {
         const char* name;
         char op;
-        const char16_t *text, *find;
+        const WCHAR *text, *find;
         int start;
         BOOL wholeWord;
         int expected;
     } rows[] = {
-        {"underscore is a word character", 'F', u"cat_", u"cat", 0, TRUE, -1},
-        {"parentheses are delimiters", 'F', u"(cat)", u"cat", 0, TRUE, 1},
-        {"overlap with a rejected one is never seen", 'F', u"xa-a-a", u"a-a", 0, TRUE, -1},
-        {"empty needle is never found", 'F', u"abc", u"", 0, FALSE, -1},
-        {"null needle is never found", 'F', u"abc", nullptr, 0, FALSE, -1},
-        {"reverse, empty needle", 'R', u"abc", u"", -1, FALSE, -1},
-        {"no case, Greek", 'N', u"\u03A3\u039F\u03A6\u0399\u0391", u"\u03C3\u03BF\u03C6", 0, FALSE,
-         0},
-        {"character, whole word resumes at the next one", 'f', u"aa a", u"a", 0, TRUE, 3},
-        {"character, no whole word", 'f', u"aaa", u"a", 0, TRUE, -1},
+        {"underscore is a word character", 'F', VU_T("cat_"), VU_T("cat"), 0, TRUE, -1},
+        {"parentheses are delimiters", 'F', VU_T("(cat)"), VU_T("cat"), 0, TRUE, 1},
+        {"overlap with a rejected one is never seen", 'F', VU_T("xa-a-a"), VU_T("a-a"), 0, TRUE,
+         -1},
+        {"empty needle is never found", 'F', VU_T("abc"), VU_T(""), 0, FALSE, -1},
+        {"null needle is never found", 'F', VU_T("abc"), nullptr, 0, FALSE, -1},
+        {"reverse, empty needle", 'R', VU_T("abc"), VU_T(""), -1, FALSE, -1},
+        {"no case, Greek", 'N', VU_T("\u03A3\u039F\u03A6\u0399\u0391"), VU_T("\u03C3\u03BF\u03C6"),
+         0, FALSE, 0},
+        {"character, whole word resumes at the next one", 'f', VU_T("aa a"), VU_T("a"), 0, TRUE, 3},
+        {"character, no whole word", 'f', VU_T("aaa"), VU_T("a"), 0, TRUE, -1},
         // The case-blind character search takes whichever case comes first.
-        {"character no case, lower before upper", 'n', u"xaA", u"A", 0, FALSE, 1},
-        {"character no case, upper before lower", 'n', u"xAa", u"a", 0, FALSE, 1},
-        {"character no case, only upper", 'n', u"xxA", u"a", 0, FALSE, 2},
-        {"character no case, only lower", 'n', u"xxa", u"A", 0, FALSE, 2},
-        {"character no case, neither", 'n', u"xyz", u"a", 0, FALSE, -1},
-        {"character no case, start", 'n', u"aAa", u"a", 1, FALSE, 1},
-        {"character reverse no case", 'q', u"aXbxc", u"X", -1, FALSE, 3},
-        {"character reverse no case, start", 'q', u"aXbxc", u"B", 1, FALSE, -1},
+        {"character no case, lower before upper", 'n', VU_T("xaA"), VU_T("A"), 0, FALSE, 1},
+        {"character no case, upper before lower", 'n', VU_T("xAa"), VU_T("a"), 0, FALSE, 1},
+        {"character no case, only upper", 'n', VU_T("xxA"), VU_T("a"), 0, FALSE, 2},
+        {"character no case, only lower", 'n', VU_T("xxa"), VU_T("A"), 0, FALSE, 2},
+        {"character no case, neither", 'n', VU_T("xyz"), VU_T("a"), 0, FALSE, -1},
+        {"character no case, start", 'n', VU_T("aAa"), VU_T("a"), 1, FALSE, 1},
+        {"character reverse no case", 'q', VU_T("aXbxc"), VU_T("X"), -1, FALSE, 3},
+        {"character reverse no case, start", 'q', VU_T("aXbxc"), VU_T("B"), 1, FALSE, -1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -116,14 +117,14 @@ TEST(SearchableStringFind, Rules) {
 }
 
 TEST(SearchableStringFind, DelimitersAreConfigurable) {
-    S s(u"a|cat|b cat");
-    EXPECT_EQ(s.Find(u"cat", 0, TRUE), 8);
-    s.SetTokenDelimiters(u"|");
-    EXPECT_EQ(s.Find(u"cat", 0, TRUE), 2);
-    s.SetTokenDelimiters(static_cast<const char16_t*>(nullptr));
-    EXPECT_EQ(s.Find(u"cat", 0, TRUE), -1) << "only the text ends are boundaries";
-    s.GetTokenDelimiters() = u" ";
-    EXPECT_EQ(s.Find(u"cat", 0, TRUE), 8) << "the returned reference edits the set";
+    S s(VU_T("a|cat|b cat"));
+    EXPECT_EQ(s.Find(VU_T("cat"), 0, TRUE), 8);
+    s.SetTokenDelimiters(VU_T("|"));
+    EXPECT_EQ(s.Find(VU_T("cat"), 0, TRUE), 2);
+    s.SetTokenDelimiters(static_cast<const WCHAR*>(nullptr));
+    EXPECT_EQ(s.Find(VU_T("cat"), 0, TRUE), -1) << "only the text ends are boundaries";
+    s.GetTokenDelimiters() = VU_T(" ");
+    EXPECT_EQ(s.Find(VU_T("cat"), 0, TRUE), 8) << "the returned reference edits the set";
 }
 
 TEST(SearchableStringFind, CheckForWholeWordTreatsTextEndsAsBoundaries) {
@@ -131,7 +132,7 @@ TEST(SearchableStringFind, CheckForWholeWordTreatsTextEndsAsBoundaries) {
         using S::CheckForWholeWord;
         using S::S;
     };
-    Probe s(u"ab cd");
+    Probe s(VU_T("ab cd"));
     EXPECT_EQ(s.CheckForWholeWord(0, 2), 0);
     EXPECT_EQ(s.CheckForWholeWord(3, 2), 3);
     EXPECT_EQ(s.CheckForWholeWord(1, 1), -1);
@@ -142,17 +143,17 @@ TEST(SearchableStringFind, CheckForWholeWordTreatsTextEndsAsBoundaries) {
 TEST(SearchableStringFind, FindNRangeEdges) {
     const struct {
         const char* name;
-        const char16_t* text;
-        char16_t ch;
+        const WCHAR* text;
+        WCHAR ch;
         int from, to;
         BOOL wholeWord;
         int expected;
     } rows[] = {
-        {"to past the end is clamped", u"abc", u'c', 0, 99, FALSE, 2},
-        {"from after to", u"abc", u'a', 2, 1, FALSE, -1},
-        {"from past the end", u"abc", u'a', 5, 5, FALSE, -1},
-        {"whole word has no second try", u"xa a", u'a', 0, 4, TRUE, -1},
-        {"whole word accepted", u"x a", u'a', 0, 3, TRUE, 2},
+        {"to past the end is clamped", VU_T("abc"), VU_T('c'), 0, 99, FALSE, 2},
+        {"from after to", VU_T("abc"), VU_T('a'), 2, 1, FALSE, -1},
+        {"from past the end", VU_T("abc"), VU_T('a'), 5, 5, FALSE, -1},
+        {"whole word has no second try", VU_T("xa a"), VU_T('a'), 0, 4, TRUE, -1},
+        {"whole word accepted", VU_T("x a"), VU_T('a'), 0, 3, TRUE, 2},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -165,22 +166,22 @@ TEST(SearchableStringFind, NoCaseWholeWordTestSeesTheLoweredText) {
     // The case-blind forward search works on a lowered copy: an upper-case
     // delimiter no longer separates there. The reverse search compares
     // characters in place and still sees it.
-    S s(u"XaX");
-    s.SetTokenDelimiters(u"X");
-    EXPECT_EQ(s.FindNoCase(u"a", 0, TRUE), -1);
-    EXPECT_EQ(s.ReverseFindNoCase(u"a", -1, TRUE), 1);
+    S s(VU_T("XaX"));
+    s.SetTokenDelimiters(VU_T("X"));
+    EXPECT_EQ(s.FindNoCase(VU_T("a"), 0, TRUE), -1);
+    EXPECT_EQ(s.ReverseFindNoCase(VU_T("a"), -1, TRUE), 1);
 }
 
 TEST(SearchableStringFind, RegularExpCountsFromStart) {
-    S s(u"ab ab");
-    EXPECT_EQ(s.FindRegularExp(u"ab", 0), 0);
-    EXPECT_EQ(s.FindRegularExp(u"ab", 1), 3);
-    EXPECT_EQ(s.FindRegularExp(u"^ab", 3), 3) << "'^' matches at start";
-    EXPECT_EQ(s.FindRegularExp(u"^ab", 2), -1);
-    EXPECT_EQ(s.FindRegularExp(u"$", 5), 5);
-    EXPECT_EQ(s.FindRegularExp(u"b", 6), -1);
-    EXPECT_EQ(s.FindRegularExp(u"b", -4), 1);
-    EXPECT_EQ(s.FindRegularExp(u"a[", 0), 1) << "a pattern that does not compile keeps 'b'";
+    S s(VU_T("ab ab"));
+    EXPECT_EQ(s.FindRegularExp(VU_T("ab"), 0), 0);
+    EXPECT_EQ(s.FindRegularExp(VU_T("ab"), 1), 3);
+    EXPECT_EQ(s.FindRegularExp(VU_T("^ab"), 3), 3) << "'^' matches at start";
+    EXPECT_EQ(s.FindRegularExp(VU_T("^ab"), 2), -1);
+    EXPECT_EQ(s.FindRegularExp(VU_T("$"), 5), 5);
+    EXPECT_EQ(s.FindRegularExp(VU_T("b"), 6), -1);
+    EXPECT_EQ(s.FindRegularExp(VU_T("b"), -4), 1);
+    EXPECT_EQ(s.FindRegularExp(VU_T("a["), 0), 1) << "a pattern that does not compile keeps 'b'";
 }
 
 // ---- Replacing -------------------------------------------------------------
@@ -191,31 +192,39 @@ TEST(SearchableStringReplace, Rules) {
     const struct {
         const char* name;
         char op;
-        const char16_t *text, *find, *by;
+        const WCHAR *text, *find, *by;
         BOOL all;
         int count;
-        std::u16string result;
+        vu::String result;
     } rows[] = {
-        {"non-overlapping", 'E', u"aaaa", u"aa", u"b", TRUE, 2, u"bb"},
-        {"null replacement deletes", 'E', u"xaby", u"ab", nullptr, TRUE, 1, u"xy"},
-        {"empty find replaces nothing", 'E', u"abc", u"", u"x", TRUE, 0, u"abc"},
-        {"whole text", 'E', u"abc", u"abc", u"", TRUE, 1, u""},
-        {"whole word ignored", 'e', u"concat cat", u"cat", u"dog", FALSE, 1, u"condog cat"},
-        {"no case, first only", 'N', u"xAa", u"a", u"-", FALSE, 1, u"x-a"},
-        {"no case keeps the other text's case", 'N', u"One TWO two", u"two", u"2", TRUE, 2,
-         u"One 2 2"},
-        {"no case, replacement is not searched", 'N', u"aa", u"A", u"aA", TRUE, 2, u"aAaA"},
-        {"no case, whole word ignored", 'n', u"condog cat", u"CAT", u"x", TRUE, 1, u"condog x"},
-        {"expression, no group references", 'X', u"xaby", u"(a)(b)", u"\\2\\1", TRUE, 1,
-         u"x\\2\\1y"},
-        {"expression, first only", 'X', u"a1b22c", u"[0-9]+", u"#", FALSE, 1, u"a#b22c"},
-        {"expression, no match", 'X', u"abc", u"z", u"#", TRUE, 0, u"abc"},
-        {"'^' matches after each replacement", 'X', u"aaab", u"^a", u"b", TRUE, 3, u"bbbb"},
-        {"empty match and empty replacement end", 'X', u"abc", u"x*", u"", TRUE, 4, u"abc"},
-        {"empty and non-empty matches", 'X', u"abc", u"b*", u"-", TRUE, 4, u"-a--c-"},
-        {"end of text", 'X', u"ab", u"$", u"X", TRUE, 1, u"abX"},
-        {"start of text alone", 'X', u"ab", u"^", u"X", TRUE, 3, u"XaXbX"},
-        {"empty text", 'X', u"", u"x*", u"-", TRUE, 1, u"-"},
+        {"non-overlapping", 'E', VU_T("aaaa"), VU_T("aa"), VU_T("b"), TRUE, 2, VU_T("bb")},
+        {"null replacement deletes", 'E', VU_T("xaby"), VU_T("ab"), nullptr, TRUE, 1, VU_T("xy")},
+        {"empty find replaces nothing", 'E', VU_T("abc"), VU_T(""), VU_T("x"), TRUE, 0,
+         VU_T("abc")},
+        {"whole text", 'E', VU_T("abc"), VU_T("abc"), VU_T(""), TRUE, 1, VU_T("")},
+        {"whole word ignored", 'e', VU_T("concat cat"), VU_T("cat"), VU_T("dog"), FALSE, 1,
+         VU_T("condog cat")},
+        {"no case, first only", 'N', VU_T("xAa"), VU_T("a"), VU_T("-"), FALSE, 1, VU_T("x-a")},
+        {"no case keeps the other text's case", 'N', VU_T("One TWO two"), VU_T("two"), VU_T("2"),
+         TRUE, 2, VU_T("One 2 2")},
+        {"no case, replacement is not searched", 'N', VU_T("aa"), VU_T("A"), VU_T("aA"), TRUE, 2,
+         VU_T("aAaA")},
+        {"no case, whole word ignored", 'n', VU_T("condog cat"), VU_T("CAT"), VU_T("x"), TRUE, 1,
+         VU_T("condog x")},
+        {"expression, no group references", 'X', VU_T("xaby"), VU_T("(a)(b)"), VU_T("\\2\\1"), TRUE,
+         1, VU_T("x\\2\\1y")},
+        {"expression, first only", 'X', VU_T("a1b22c"), VU_T("[0-9]+"), VU_T("#"), FALSE, 1,
+         VU_T("a#b22c")},
+        {"expression, no match", 'X', VU_T("abc"), VU_T("z"), VU_T("#"), TRUE, 0, VU_T("abc")},
+        {"'^' matches after each replacement", 'X', VU_T("aaab"), VU_T("^a"), VU_T("b"), TRUE, 3,
+         VU_T("bbbb")},
+        {"empty match and empty replacement end", 'X', VU_T("abc"), VU_T("x*"), VU_T(""), TRUE, 4,
+         VU_T("abc")},
+        {"empty and non-empty matches", 'X', VU_T("abc"), VU_T("b*"), VU_T("-"), TRUE, 4,
+         VU_T("-a--c-")},
+        {"end of text", 'X', VU_T("ab"), VU_T("$"), VU_T("X"), TRUE, 1, VU_T("abX")},
+        {"start of text alone", 'X', VU_T("ab"), VU_T("^"), VU_T("X"), TRUE, 3, VU_T("XaXbX")},
+        {"empty text", 'X', VU_T(""), VU_T("x*"), VU_T("-"), TRUE, 1, VU_T("-")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -235,16 +244,19 @@ TEST(SearchableStringReplace, Rules) {
 TEST(SearchableStringFields, CountAndEveryField) {
     const struct {
         const char* name;
-        const char16_t *text, *delimiter;
-        std::vector<std::u16string> fields;
+        const WCHAR *text, *delimiter;
+        std::vector<vu::String> fields;
     } rows[] = {
-        {"adjacent delimiters give empty fields", u"a,,b", u",", {u"a", u"", u"b"}},
-        {"trailing delimiter", u"a,", u",", {u"a", u""}},
-        {"text delimiter", u"x::y::z", u"::", {u"x", u"y", u"z"}},
-        {"non-overlapping delimiters", u"aaaa", u"aa", {u"", u"", u""}},
-        {"no delimiter", u"abc", u",", {u"abc"}},
-        {"empty delimiter", u"abc", u"", {u"abc"}},
-        {"empty text", u"", u",", {u""}},
+        {"adjacent delimiters give empty fields",
+         VU_T("a,,b"),
+         VU_T(","),
+         {VU_T("a"), VU_T(""), VU_T("b")}},
+        {"trailing delimiter", VU_T("a,"), VU_T(","), {VU_T("a"), VU_T("")}},
+        {"text delimiter", VU_T("x::y::z"), VU_T("::"), {VU_T("x"), VU_T("y"), VU_T("z")}},
+        {"non-overlapping delimiters", VU_T("aaaa"), VU_T("aa"), {VU_T(""), VU_T(""), VU_T("")}},
+        {"no delimiter", VU_T("abc"), VU_T(","), {VU_T("abc")}},
+        {"empty delimiter", VU_T("abc"), VU_T(""), {VU_T("abc")}},
+        {"empty text", VU_T(""), VU_T(","), {VU_T("")}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -253,28 +265,29 @@ TEST(SearchableStringFields, CountAndEveryField) {
         EXPECT_EQ(s.GetFieldCount(row.delimiter), count);
         for (int n = -1; n <= count + 1; ++n) {
             const bool inside = n >= 0 && n < count;
-            EXPECT_EQ(Show(s.GetField(row.delimiter, n).View()), Show(inside ? row.fields[n] : u""))
+            EXPECT_EQ(Show(s.GetField(row.delimiter, n).View()),
+                      Show(inside ? row.fields[n] : VU_T("")))
                 << "field " << n;
         }
     }
-    S s(u"k=v;w");
-    EXPECT_EQ(Show(s.GetField(u';', 1).View()), "w");
-    EXPECT_EQ(s.GetFieldCount(u';'), 2);
+    S s(VU_T("k=v;w"));
+    EXPECT_EQ(Show(s.GetField(VU_T(';'), 1).View()), "w");
+    EXPECT_EQ(s.GetFieldCount(VU_T(';')), 2);
 }
 
 TEST(SearchableStringFields, GetDelimitedField) {
     const struct {
         const char* name;
-        const char16_t *text, *open, *close;
+        const WCHAR *text, *open, *close;
         int n;
-        std::u16string expected;
+        vu::String expected;
     } rows[] = {
-        {"beyond", u"<a> <bc>", u"<", u">", 2, u""},
-        {"no close", u"<a> <bc", u"<", u">", 1, u""},
-        {"nesting is not recognised", u"((a)b)", u"(", u")", 0, u"(a"},
-        {"long delimiters", u"[[x]] [[yz]]", u"[[", u"]]", 1, u"yz"},
-        {"empty field", u"<>", u"<", u">", 0, u""},
-        {"negative", u"<a>", u"<", u">", -1, u""},
+        {"beyond", VU_T("<a> <bc>"), VU_T("<"), VU_T(">"), 2, VU_T("")},
+        {"no close", VU_T("<a> <bc"), VU_T("<"), VU_T(">"), 1, VU_T("")},
+        {"nesting is not recognised", VU_T("((a)b)"), VU_T("("), VU_T(")"), 0, VU_T("(a")},
+        {"long delimiters", VU_T("[[x]] [[yz]]"), VU_T("[["), VU_T("]]"), 1, VU_T("yz")},
+        {"empty field", VU_T("<>"), VU_T("<"), VU_T(">"), 0, VU_T("")},
+        {"negative", VU_T("<a>"), VU_T("<"), VU_T(">"), -1, VU_T("")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -290,28 +303,28 @@ TEST(SearchableStringEdit, InsertDeleteReplace) {
     //     'D' DeleteAt(index, count), 'R' ReplaceAt(index, count, text)
     const struct {
         const char* name;
-        const char16_t* text;
+        const WCHAR* text;
         char op;
         int index, count;
-        const char16_t* arg;
-        std::u16string expected;
+        const WCHAR* arg;
+        vu::String expected;
     } rows[] = {
-        {"insert inside", u"ad", 'I', 1, 0, u"bc", u"abcd"},
-        {"insert at the end", u"ab", 'I', 2, 0, u"c", u"abc"},
-        {"insert beyond pads with spaces", u"ab", 'I', 5, 0, u"x", u"ab   x"},
-        {"insert empty changes nothing", u"ab", 'I', 5, 0, u"", u"ab"},
-        {"insert at a negative index", u"ab", 'I', -1, 0, u"x", u"ab"},
-        {"insert a character", u"ac", 'c', 1, 0, u"b", u"abc"},
-        {"delete", u"abcd", 'D', 1, 2, nullptr, u"ad"},
-        {"delete a negative count", u"abcd", 'D', 1, -1, nullptr, u"a"},
-        {"delete past the end", u"abcd", 'D', 2, 9, nullptr, u"ab"},
-        {"delete at the end", u"abcd", 'D', 4, 1, nullptr, u"abcd"},
-        {"delete at a negative index", u"abcd", 'D', -1, 2, nullptr, u"abcd"},
-        {"replace", u"abcd", 'R', 1, 2, u"XYZ", u"aXYZd"},
-        {"replace past the end", u"abcd", 'R', 3, 9, u"x", u"abcx"},
-        {"replace beyond appends", u"ab", 'R', 7, 1, u"x", u"abx"},
-        {"replace at a negative index", u"ab", 'R', -3, 1, u"x", u"xb"},
-        {"replace with null deletes", u"abc", 'R', 1, 1, nullptr, u"ac"},
+        {"insert inside", VU_T("ad"), 'I', 1, 0, VU_T("bc"), VU_T("abcd")},
+        {"insert at the end", VU_T("ab"), 'I', 2, 0, VU_T("c"), VU_T("abc")},
+        {"insert beyond pads with spaces", VU_T("ab"), 'I', 5, 0, VU_T("x"), VU_T("ab   x")},
+        {"insert empty changes nothing", VU_T("ab"), 'I', 5, 0, VU_T(""), VU_T("ab")},
+        {"insert at a negative index", VU_T("ab"), 'I', -1, 0, VU_T("x"), VU_T("ab")},
+        {"insert a character", VU_T("ac"), 'c', 1, 0, VU_T("b"), VU_T("abc")},
+        {"delete", VU_T("abcd"), 'D', 1, 2, nullptr, VU_T("ad")},
+        {"delete a negative count", VU_T("abcd"), 'D', 1, -1, nullptr, VU_T("a")},
+        {"delete past the end", VU_T("abcd"), 'D', 2, 9, nullptr, VU_T("ab")},
+        {"delete at the end", VU_T("abcd"), 'D', 4, 1, nullptr, VU_T("abcd")},
+        {"delete at a negative index", VU_T("abcd"), 'D', -1, 2, nullptr, VU_T("abcd")},
+        {"replace", VU_T("abcd"), 'R', 1, 2, VU_T("XYZ"), VU_T("aXYZd")},
+        {"replace past the end", VU_T("abcd"), 'R', 3, 9, VU_T("x"), VU_T("abcx")},
+        {"replace beyond appends", VU_T("ab"), 'R', 7, 1, VU_T("x"), VU_T("abx")},
+        {"replace at a negative index", VU_T("ab"), 'R', -3, 1, VU_T("x"), VU_T("xb")},
+        {"replace with null deletes", VU_T("abc"), 'R', 1, 1, nullptr, VU_T("ac")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

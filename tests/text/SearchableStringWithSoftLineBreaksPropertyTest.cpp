@@ -13,11 +13,12 @@ namespace {
 using Soft = VU_CSearchableStringWithSoftLineBreaks;
 
 // Words, blanks, tabs and hard breaks; never a soft break of its own.
-std::u16string RandomText(std::mt19937& rng) {
-    static const std::u16string pieces[] = {u"a",     u"of",   u"word", u"wrapping",
-                                            u"x_y-z", u" ",    u" ",    u" ",
-                                            u"\t",    u"\r\n", u"\n",   u"longerthananyline"};
-    std::u16string text;
+vu::String RandomText(std::mt19937& rng) {
+    static const vu::String pieces[] = {VU_T("a"),        VU_T("of"),    VU_T("word"),
+                                        VU_T("wrapping"), VU_T("x_y-z"), VU_T(" "),
+                                        VU_T(" "),        VU_T(" "),     VU_T("\t"),
+                                        VU_T("\r\n"),     VU_T("\n"),    VU_T("longerthananyline")};
+    vu::String text;
     for (int n = std::uniform_int_distribution<int>(0, 40)(rng); n > 0; --n)
         text += pieces[std::uniform_int_distribution<std::size_t>(0, std::size(pieces) - 1)(rng)];
     return text;
@@ -28,13 +29,13 @@ std::u16string RandomText(std::mt19937& rng) {
 TEST(SoftBreaksProperty, RoundTripIsAnIdentityAndSearchesSeeTheUnwrappedText) {
     std::mt19937 rng(20240611);
     for (int round = 0; round < 300; ++round) {
-        const std::u16string text = RandomText(rng);
+        const vu::String text = RandomText(rng);
         const int n = static_cast<int>(text.size());
         for (int width : {-1, 1, 2, 3, 5, 8, 13, 40}) {
             SCOPED_TRACE(testing::Message() << "round " << round << " width " << width);
             Soft s(CString(text), n, n);
             const int breaks = s.WordWrapText(width);
-            const std::u16string wrapped = s.Str();
+            const vu::String wrapped = s.Str();
             ASSERT_EQ(wrapped,
                       VU_CWordWrappedString(CString(text), width).GetFullString(true, false).Str());
             int start, end;
@@ -44,17 +45,17 @@ TEST(SoftBreaksProperty, RoundTripIsAnIdentityAndSearchesSeeTheUnwrappedText) {
             EXPECT_EQ(s.RemoveSoftLineBreaks(), breaks);
             EXPECT_EQ(s.Str(), text);
             EXPECT_EQ(s.ReInsertSoftLineBreaks(), breaks);
-            EXPECT_EQ(s.ReplaceSoftLineBreaksWith(u"\u00b6"), breaks);
+            EXPECT_EQ(s.ReplaceSoftLineBreaksWith(VU_T("\u00b6")), breaks);
             EXPECT_EQ(s.ReInsertSoftLineBreaks(), breaks);
             ASSERT_EQ(s.Str(), wrapped);
 
             if (n == 0)
                 continue;
             const int at = std::uniform_int_distribution<int>(0, n - 1)(rng);
-            const std::u16string needle = text.substr(at, 1 + at % 5);
-            std::u16string upper = needle;
-            for (char16_t& c : upper)
-                c = (c >= u'a' && c <= u'z') ? char16_t(c - 32) : c;
+            const vu::String needle = text.substr(at, 1 + at % 5);
+            vu::String upper = needle;
+            for (WCHAR& c : upper)
+                c = (c >= VU_T('a') && c <= VU_T('z')) ? WCHAR(c - 32) : c;
             EXPECT_EQ(s.Find(needle.c_str()), int(text.find(needle)));
             EXPECT_EQ(s.FindNoCase(upper.c_str()), int(text.find(needle)));
             EXPECT_EQ(s.ReverseFind(needle.c_str()), int(text.rfind(needle)));

@@ -19,7 +19,7 @@ Selection SelectionOf(const Soft& s) {
     return r;
 }
 
-Soft Make(const std::u16string& text, Selection selection = {0, -1}) {
+Soft Make(const vu::String& text, Selection selection = {0, -1}) {
     return Soft(CString(text), selection.first, selection.second);
 }
 
@@ -27,16 +27,18 @@ Soft Make(const std::u16string& text, Selection selection = {0, -1}) {
 
 TEST(SoftBreaksConstruction, DefaultHasNoSelectionAndOthersACaretAtZero) {
     EXPECT_EQ(SelectionOf(Soft()), Selection(-1, -1));
-    EXPECT_EQ(Soft().ReplaceSelectionWith(u"x"), 0);
+    EXPECT_EQ(Soft().ReplaceSelectionWith(VU_T("x")), 0);
     const unsigned char bytes[] = {'a', 0xE9, 0};
     const struct {
         const char* name;
         Soft s;
-        std::u16string text;
-    } rows[] = {
-        {"string", Soft(CString(u"ab")), u"ab"},   {"repeat", Soft(u'z', 3), u"zzz"},
-        {"counted", Soft(u"abcdef", 2), u"ab"},    {"unsigned bytes", Soft(bytes), u"a\u00e9"},
-        {"utf16", Soft(u"x\r\r\ny"), u"x\r\r\ny"}, {"bytes", Soft("q"), u"q"}};
+        vu::String text;
+    } rows[] = {{"string", Soft(CString(VU_T("ab"))), VU_T("ab")},
+                {"repeat", Soft(VU_T('z'), 3), VU_T("zzz")},
+                {"counted", Soft(VU_T("abcdef"), 2), VU_T("ab")},
+                {"unsigned bytes", Soft(bytes), VU_T("a\u00e9")},
+                {"utf16", Soft(VU_T("x\r\r\ny")), VU_T("x\r\r\ny")},
+                {"bytes", Soft("q"), VU_T("q")}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(row.s.Str(), row.text);
@@ -46,17 +48,17 @@ TEST(SoftBreaksConstruction, DefaultHasNoSelectionAndOthersACaretAtZero) {
 }
 
 TEST(SoftBreaksConstruction, CopyKeepsTheBreakStateAndAssigningTextResetsIt) {
-    Soft s = Make(u"ab\r\r\ncd", {5, 6});
-    s.SetTokenDelimiters(u"|");
+    Soft s = Make(VU_T("ab\r\r\ncd"), {5, 6});
+    s.SetTokenDelimiters(VU_T("|"));
     s.RemoveSoftLineBreaks();
     Soft copy(s);
     EXPECT_TRUE(copy.WereSoftLineBreaksRemoved());
     EXPECT_EQ(SelectionOf(copy), Selection(2, 3));
-    EXPECT_EQ(copy.Find(u"b", 0, TRUE), -1) << "delimiters are copied";
+    EXPECT_EQ(copy.Find(VU_T("b"), 0, TRUE), -1) << "delimiters are copied";
     EXPECT_EQ(copy.ReInsertSoftLineBreaks(), 1);
-    EXPECT_EQ(copy.Str(), u"ab\r\r\ncd");
+    EXPECT_EQ(copy.Str(), VU_T("ab\r\r\ncd"));
 
-    s = u"x\r\r\ny\r\r\nz";
+    s = VU_T("x\r\r\ny\r\r\nz");
     EXPECT_FALSE(s.WereSoftLineBreaksRemoved());
     EXPECT_EQ(SelectionOf(s), Selection(0, -1));
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(100), 2);
@@ -70,12 +72,12 @@ TEST(SoftBreaksCycle, RemoveAndReInsertRestoreTheText) {
     // Breaks where wrapping never puts them; wrapped texts are in the property test.
     const struct {
         const char* name;
-        std::u16string text, removed;
+        vu::String text, removed;
         int count;
-    } rows[] = {{"at the start", u"\r\r\nab", u"ab", 1},
-                {"at the end", u"ab\r\r\n", u"ab", 1},
-                {"adjacent", u"a\r\r\n\r\r\nb", u"ab", 2},
-                {"after a lone CR", u"a\r\r\r\nb", u"a\rb", 1}};
+    } rows[] = {{"at the start", VU_T("\r\r\nab"), VU_T("ab"), 1},
+                {"at the end", VU_T("ab\r\r\n"), VU_T("ab"), 1},
+                {"adjacent", VU_T("a\r\r\n\r\r\nb"), VU_T("ab"), 2},
+                {"after a lone CR", VU_T("a\r\r\r\nb"), VU_T("a\rb"), 1}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         Soft s = Make(row.text);
@@ -89,18 +91,19 @@ TEST(SoftBreaksCycle, RemoveAndReInsertRestoreTheText) {
 }
 
 TEST(SoftBreaksCycle, ReplacementsStandInTurnAndCountPositions) {
-    Soft s(u"ab\r\r\ncd\r\r\nef");
+    Soft s(VU_T("ab\r\r\ncd\r\r\nef"));
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(2), 0);
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(3), 1);
-    EXPECT_EQ(s.ReplaceSoftLineBreaksWith(u"<br>"), 2);
-    EXPECT_EQ(s.Str(), u"ab<br>cd<br>ef");
-    EXPECT_EQ(s.ReplaceSoftLineBreaksWith(u"|"), 2) << "replaces the replacement, not a soft break";
-    EXPECT_EQ(s.Str(), u"ab|cd|ef");
+    EXPECT_EQ(s.ReplaceSoftLineBreaksWith(VU_T("<br>")), 2);
+    EXPECT_EQ(s.Str(), VU_T("ab<br>cd<br>ef"));
+    EXPECT_EQ(s.ReplaceSoftLineBreaksWith(VU_T("|")), 2)
+        << "replaces the replacement, not a soft break";
+    EXPECT_EQ(s.Str(), VU_T("ab|cd|ef"));
     EXPECT_EQ(s.RemoveSoftLineBreaks(), 2);
-    EXPECT_EQ(s.Str(), u"abcdef");
+    EXPECT_EQ(s.Str(), VU_T("abcdef"));
     EXPECT_EQ(s.GetNumberOfSoftLineBreaks(5), 2);
     EXPECT_EQ(s.ReInsertSoftLineBreaks(), 2);
-    EXPECT_EQ(s.Str(), u"ab\r\r\ncd\r\r\nef");
+    EXPECT_EQ(s.Str(), VU_T("ab\r\r\ncd\r\r\nef"));
 }
 
 TEST(SoftBreaksCycle, SelectionFollowsTheBreaks) {
@@ -108,13 +111,13 @@ TEST(SoftBreaksCycle, SelectionFollowsTheBreaks) {
     // them, and a start at a break's position stays before the break.
     const struct {
         const char* name;
-        std::u16string text;
+        vu::String text;
         Selection before, removed, back;
-    } rows[] = {{"inside a line", u"ab\r\r\ncd", {6, 6}, {3, 3}, {6, 6}},
-                {"at a line start", u"ab\r\r\ncd", {5, 6}, {2, 3}, {2, 6}},
-                {"none", u"ab\r\r\ncd", {-1, -1}, {-1, -1}, {-1, -1}},
-                {"caret without end", u"ab\r\r\ncd", {5, -1}, {5, -1}, {5, -1}},
-                {"two breaks", u"ab\r\r\ncd\r\r\nef", {10, 11}, {7, 5}, {13, 11}}};
+    } rows[] = {{"inside a line", VU_T("ab\r\r\ncd"), {6, 6}, {3, 3}, {6, 6}},
+                {"at a line start", VU_T("ab\r\r\ncd"), {5, 6}, {2, 3}, {2, 6}},
+                {"none", VU_T("ab\r\r\ncd"), {-1, -1}, {-1, -1}, {-1, -1}},
+                {"caret without end", VU_T("ab\r\r\ncd"), {5, -1}, {5, -1}, {5, -1}},
+                {"two breaks", VU_T("ab\r\r\ncd\r\r\nef"), {10, 11}, {7, 5}, {13, 11}}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         Soft s = Make(row.text, row.before);
@@ -129,27 +132,27 @@ TEST(SoftBreaksCycle, SelectionFollowsTheBreaks) {
 
 TEST(SoftBreaksWrap, RewrapsAndKeepsTheSelection) {
     // Plain wrapping is compared with the wrapped string in the property test.
-    Soft s(u"hello world again");
+    Soft s(VU_T("hello world again"));
     EXPECT_EQ(s.WordWrapText(12), 1);
-    EXPECT_EQ(s.Str(), u"hello world \r\r\nagain");
+    EXPECT_EQ(s.Str(), VU_T("hello world \r\r\nagain"));
     EXPECT_EQ(s.WordWrapText(5), 2);
-    EXPECT_EQ(s.Str(), u"hello \r\r\nworld \r\r\nagain");
+    EXPECT_EQ(s.Str(), VU_T("hello \r\r\nworld \r\r\nagain"));
     EXPECT_EQ(s.WordWrapText(-1), 0);
-    EXPECT_EQ(s.Str(), u"hello world again");
+    EXPECT_EQ(s.Str(), VU_T("hello world again"));
 
     // Three breaks out move the caret short of the end; it is put back there.
-    s = Make(u"a\r\r\nb\r\r\nc\r\r\nd", {13, 13});
+    s = Make(VU_T("a\r\r\nb\r\r\nc\r\r\nd"), {13, 13});
     EXPECT_EQ(s.WordWrapText(-1), 0);
     EXPECT_EQ(SelectionOf(s), Selection(4, 4));
 
-    s = Make(u"hello world", {8, 9});
+    s = Make(VU_T("hello world"), {8, 9});
     s.WordWrapText(5);
     EXPECT_EQ(SelectionOf(s), Selection(11, 12));
 
-    s = u"ab\r\r\ncd";
-    s.ReplaceSoftLineBreaksWith(u"|");
+    s = VU_T("ab\r\r\ncd");
+    s.ReplaceSoftLineBreaksWith(VU_T("|"));
     EXPECT_EQ(s.WordWrapText(-1), 0) << "the replacement is not text";
-    EXPECT_EQ(s.Str(), u"abcd");
+    EXPECT_EQ(s.Str(), VU_T("abcd"));
 }
 
 // ---- Searching across soft breaks ------------------------------------------------------
@@ -162,39 +165,48 @@ TEST(SoftBreaksSearch, PositionsCountTheTextWithoutBreaks) {
         int found;
         Selection selection;
     } rows[] = {
-        {"Find text", [](Soft& s) { return s.Find(u"bc"); }, 1, {1, 6}},
-        {"Find char", [](Soft& s) { return s.Find(u'd'); }, 3, {6, 7}},
-        {"FindNoCase text", [](Soft& s) { return s.FindNoCase(u"BC"); }, 1, {1, 6}},
-        {"FindNoCase char", [](Soft& s) { return s.FindNoCase(u'C'); }, 2, {2, 6}},
-        {"ReverseFind text", [](Soft& s) { return s.ReverseFind(u"b"); }, 1, {1, 5}},
-        {"ReverseFind char", [](Soft& s) { return s.ReverseFind(u'c'); }, 2, {2, 6}},
-        {"ReverseFindNoCase text", [](Soft& s) { return s.ReverseFindNoCase(u"CD"); }, 2, {2, 7}},
-        {"ReverseFindNoCase char", [](Soft& s) { return s.ReverseFindNoCase(u'A'); }, 0, {0, 1}},
-        {"absent", [](Soft& s) { return s.Find(u"x"); }, -1, {-1, -1}},
-        {"FindN on the text as it stands", [](Soft& s) { return s.FindN(u'c', 0, 10); }, 5, {5, 6}},
-        {"FindN absent: the length", [](Soft& s) { return s.FindN(u'z', 0, 10); }, 7, {7, 7}},
+        {"Find text", [](Soft& s) { return s.Find(VU_T("bc")); }, 1, {1, 6}},
+        {"Find char", [](Soft& s) { return s.Find(VU_T('d')); }, 3, {6, 7}},
+        {"FindNoCase text", [](Soft& s) { return s.FindNoCase(VU_T("BC")); }, 1, {1, 6}},
+        {"FindNoCase char", [](Soft& s) { return s.FindNoCase(VU_T('C')); }, 2, {2, 6}},
+        {"ReverseFind text", [](Soft& s) { return s.ReverseFind(VU_T("b")); }, 1, {1, 5}},
+        {"ReverseFind char", [](Soft& s) { return s.ReverseFind(VU_T('c')); }, 2, {2, 6}},
+        {"ReverseFindNoCase text",
+         [](Soft& s) { return s.ReverseFindNoCase(VU_T("CD")); },
+         2,
+         {2, 7}},
+        {"ReverseFindNoCase char",
+         [](Soft& s) { return s.ReverseFindNoCase(VU_T('A')); },
+         0,
+         {0, 1}},
+        {"absent", [](Soft& s) { return s.Find(VU_T("x")); }, -1, {-1, -1}},
+        {"FindN on the text as it stands",
+         [](Soft& s) { return s.FindN(VU_T('c'), 0, 10); },
+         5,
+         {5, 6}},
+        {"FindN absent: the length", [](Soft& s) { return s.FindN(VU_T('z'), 0, 10); }, 7, {7, 7}},
         // The regular expression search returns the selection start.
-        {"FindRegularExp", [](Soft& s) { return s.FindRegularExp(u"c."); }, 2, {2, 6}},
-        {"FindRegularExp absent", [](Soft& s) { return s.FindRegularExp(u"z"); }, 7, {7, 7}},
+        {"FindRegularExp", [](Soft& s) { return s.FindRegularExp(VU_T("c.")); }, 2, {2, 6}},
+        {"FindRegularExp absent", [](Soft& s) { return s.FindRegularExp(VU_T("z")); }, 7, {7, 7}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        Soft s(u"ab\r\r\ncd");
+        Soft s(VU_T("ab\r\r\ncd"));
         EXPECT_EQ(row.search(s), row.found);
         EXPECT_EQ(SelectionOf(s), row.selection);
-        EXPECT_EQ(s.Str(), u"ab\r\r\ncd") << "the soft break stays in place";
+        EXPECT_EQ(s.Str(), VU_T("ab\r\r\ncd")) << "the soft break stays in place";
     }
-    Soft plain(u"abbbc");
-    EXPECT_EQ(plain.FindRegularExp(u"b+", 0), 1);
+    Soft plain(VU_T("abbbc"));
+    EXPECT_EQ(plain.FindRegularExp(VU_T("b+"), 0), 1);
     EXPECT_EQ(SelectionOf(plain), Selection(1, 2)) << "the pattern's length, not the match's";
 }
 
 TEST(SoftBreaksSearch, WholeWordsAreJudgedWithoutTheBreaks) {
-    Soft s(u"catdog");
+    Soft s(VU_T("catdog"));
     s.WordWrapText(3);
-    ASSERT_EQ(s.Str(), u"cat\r\r\ndog");
-    EXPECT_EQ(s.Find(u"dog", 0, TRUE), -1) << "a cut word is still one word";
-    EXPECT_EQ(s.Find(u"catdog", 0, TRUE), 0);
+    ASSERT_EQ(s.Str(), VU_T("cat\r\r\ndog"));
+    EXPECT_EQ(s.Find(VU_T("dog"), 0, TRUE), -1) << "a cut word is still one word";
+    EXPECT_EQ(s.Find(VU_T("catdog"), 0, TRUE), 0);
 }
 
 // ---- Replacing ------------------------------------------------------------------------
@@ -202,18 +214,23 @@ TEST(SoftBreaksSearch, WholeWordsAreJudgedWithoutTheBreaks) {
 TEST(SoftBreaksReplace, SingleReplacementTakesTheCharacterAfterTheMatch) {
     const struct {
         const char* name;
-        std::u16string text;
-        const char16_t *find, *by;
+        vu::String text;
+        const WCHAR *find, *by;
         BOOL wholeWord, noCase;
         int count;
-        std::u16string result;
+        vu::String result;
     } rows[] = {
-        {"whole word honoured", u"concat cat", u"cat", u"dog", TRUE, FALSE, 1, u"concat dog"},
-        {"first match otherwise", u"concat cat", u"cat", u"dog", FALSE, FALSE, 1, u"condogcat"},
-        {"absent", u"abc", u"x", u"y", FALSE, FALSE, 0, u"abc"},
-        {"break after the edit kept", u"ab cd \r\r\nef", u"ab", u"xyz", 0, 0, 1, u"xyzcd \r\r\nef"},
-        {"break inside the edit kept", u"ab\r\r\ncd ef", u"bc", u"", 0, 0, 1, u"a\r\r\n ef"},
-        {"no-case form matches exactly", u"Aa", u"a", u"x", FALSE, TRUE, 1, u"Ax"},
+        {"whole word honoured", VU_T("concat cat"), VU_T("cat"), VU_T("dog"), TRUE, FALSE, 1,
+         VU_T("concat dog")},
+        {"first match otherwise", VU_T("concat cat"), VU_T("cat"), VU_T("dog"), FALSE, FALSE, 1,
+         VU_T("condogcat")},
+        {"absent", VU_T("abc"), VU_T("x"), VU_T("y"), FALSE, FALSE, 0, VU_T("abc")},
+        {"break after the edit kept", VU_T("ab cd \r\r\nef"), VU_T("ab"), VU_T("xyz"), 0, 0, 1,
+         VU_T("xyzcd \r\r\nef")},
+        {"break inside the edit kept", VU_T("ab\r\r\ncd ef"), VU_T("bc"), VU_T(""), 0, 0, 1,
+         VU_T("a\r\r\n ef")},
+        {"no-case form matches exactly", VU_T("Aa"), VU_T("a"), VU_T("x"), FALSE, TRUE, 1,
+         VU_T("Ax")},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -223,29 +240,29 @@ TEST(SoftBreaksReplace, SingleReplacementTakesTheCharacterAfterTheMatch) {
         EXPECT_EQ(count, row.count);
         EXPECT_EQ(s.Str(), row.result);
     }
-    Soft s = Make(u"abc", {0, 1});
-    EXPECT_EQ(s.ReplaceSelectionWith(u"x"), 1);
-    EXPECT_EQ(s.Str(), u"xc");
+    Soft s = Make(VU_T("abc"), {0, 1});
+    EXPECT_EQ(s.ReplaceSelectionWith(VU_T("x")), 1);
+    EXPECT_EQ(s.Str(), VU_T("xc"));
     EXPECT_EQ(SelectionOf(s), Selection(0, 0));
-    EXPECT_EQ(s.ReplaceSelectionWith(u"yz"), 1);
-    EXPECT_EQ(s.Str(), u"yzc");
+    EXPECT_EQ(s.ReplaceSelectionWith(VU_T("yz")), 1);
+    EXPECT_EQ(s.Str(), VU_T("yzc"));
 }
 
 TEST(SoftBreaksReplace, ReplaceAllWorksWithoutBreaksAndLeavesThemOut) {
-    Soft s(u"a cat\r\r\ncat");
-    EXPECT_EQ(s.FindReplace(u"cat", u"dog", TRUE), 2);
-    EXPECT_EQ(s.Str(), u"a dogdog");
+    Soft s(VU_T("a cat\r\r\ncat"));
+    EXPECT_EQ(s.FindReplace(VU_T("cat"), VU_T("dog"), TRUE), 2);
+    EXPECT_EQ(s.Str(), VU_T("a dogdog"));
     EXPECT_EQ(SelectionOf(s), Selection(8, 8));
-    s = u"a\r\r\nAa";
-    EXPECT_EQ(s.FindReplaceNoCase(u"A", u"xy", TRUE), 3);
-    EXPECT_EQ(s.Str(), u"xyxyxy");
-    s = u"ab\r\r\nbc";
-    EXPECT_EQ(s.FindReplaceRegularExp(u"b+", u"&", TRUE), 1);
-    EXPECT_EQ(s.Str(), u"a&c");
+    s = VU_T("a\r\r\nAa");
+    EXPECT_EQ(s.FindReplaceNoCase(VU_T("A"), VU_T("xy"), TRUE), 3);
+    EXPECT_EQ(s.Str(), VU_T("xyxyxy"));
+    s = VU_T("ab\r\r\nbc");
+    EXPECT_EQ(s.FindReplaceRegularExp(VU_T("b+"), VU_T("&"), TRUE), 1);
+    EXPECT_EQ(s.Str(), VU_T("a&c"));
     EXPECT_EQ(SelectionOf(s), Selection(3, 3));
-    s = u"ab\r\r\ncd";
-    EXPECT_EQ(s.FindReplaceRegularExp(u"z", u"y", TRUE), 0);
-    EXPECT_EQ(s.Str(), u"ab\r\r\ncd") << "nothing replaced: the break is put back";
+    s = VU_T("ab\r\r\ncd");
+    EXPECT_EQ(s.FindReplaceRegularExp(VU_T("z"), VU_T("y"), TRUE), 0);
+    EXPECT_EQ(s.Str(), VU_T("ab\r\r\ncd")) << "nothing replaced: the break is put back";
 }
 
 // ---- Editing and fields ------------------------------------------------------------------
@@ -254,15 +271,16 @@ TEST(SoftBreaksEdit, EditsUseUnbrokenPositionsAndResetTheState) {
     const struct {
         const char* name;
         void (*edit)(Soft&);
-        std::u16string result;
-    } rows[] = {{"InsertAt text", [](Soft& s) { s.InsertAt(2, u"XY"); }, u"abXYcd"},
-                {"InsertAt char", [](Soft& s) { s.InsertAt(3, u'X'); }, u"abcXd"},
-                {"InsertAt past the end", [](Soft& s) { s.InsertAt(6, u'X'); }, u"abcd  X"},
-                {"DeleteAt", [](Soft& s) { s.DeleteAt(1, 2); }, u"ad"},
-                {"ReplaceAt", [](Soft& s) { s.ReplaceAt(1, 2, u"-"); }, u"a-d"}};
+        vu::String result;
+    } rows[] = {
+        {"InsertAt text", [](Soft& s) { s.InsertAt(2, VU_T("XY")); }, VU_T("abXYcd")},
+        {"InsertAt char", [](Soft& s) { s.InsertAt(3, VU_T('X')); }, VU_T("abcXd")},
+        {"InsertAt past the end", [](Soft& s) { s.InsertAt(6, VU_T('X')); }, VU_T("abcd  X")},
+        {"DeleteAt", [](Soft& s) { s.DeleteAt(1, 2); }, VU_T("ad")},
+        {"ReplaceAt", [](Soft& s) { s.ReplaceAt(1, 2, VU_T("-")); }, VU_T("a-d")}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        Soft s = Make(u"ab\r\r\ncd", {5, 6});
+        Soft s = Make(VU_T("ab\r\r\ncd"), {5, 6});
         row.edit(s);
         EXPECT_EQ(s.Str(), row.result);
         EXPECT_EQ(SelectionOf(s), Selection(0, -1));
@@ -271,14 +289,15 @@ TEST(SoftBreaksEdit, EditsUseUnbrokenPositionsAndResetTheState) {
 }
 
 TEST(SoftBreaksFields, FieldsComeFromTheTextWithoutBreaks) {
-    static_assert(std::is_same_v<decltype(Soft().GetField(u',', 0)), Soft>);
-    Soft s = Make(u"a,b\r\r\nc,d", {1, 2});
-    EXPECT_EQ(s.GetFieldCount(u','), 3);
-    EXPECT_EQ(s.GetFieldCount(u"\r\n"), 1);
-    EXPECT_EQ(s.GetField(u',', 1).Str(), u"bc");
-    EXPECT_EQ(s.GetField(u",", 2).Str(), u"d");
-    EXPECT_EQ(Soft(u"(a\r\r\nb)(c)").GetDelimitedField(u"(", u")", 0).Str(), u"ab");
-    EXPECT_EQ(s.Str(), u"a,b\r\r\nc,d");
+    static_assert(std::is_same_v<decltype(Soft().GetField(VU_T(','), 0)), Soft>);
+    Soft s = Make(VU_T("a,b\r\r\nc,d"), {1, 2});
+    EXPECT_EQ(s.GetFieldCount(VU_T(',')), 3);
+    EXPECT_EQ(s.GetFieldCount(VU_T("\r\n")), 1);
+    EXPECT_EQ(s.GetField(VU_T(','), 1).Str(), VU_T("bc"));
+    EXPECT_EQ(s.GetField(VU_T(","), 2).Str(), VU_T("d"));
+    EXPECT_EQ(Soft(VU_T("(a\r\r\nb)(c)")).GetDelimitedField(VU_T("("), VU_T(")"), 0).Str(),
+              VU_T("ab"));
+    EXPECT_EQ(s.Str(), VU_T("a,b\r\r\nc,d"));
     EXPECT_EQ(SelectionOf(s), Selection(1, 2));
 }
 

@@ -61,22 +61,22 @@ TEST(TreeListGeometry, KeyboardStepsOverHeadersAndSeparators) {
 
 TEST(TreeListGeometry, SplitColumnsLikeWcstok) {
     struct Row {
-        const char16_t* text;
-        std::vector<std::u16string> parts;
+        const WCHAR* text;
+        std::vector<vu::String> parts;
     } rows[] = {
-        {u"", {}},
-        {u"Motor", {u"Motor"}},
-        {u"Motor\tBOOL\tStart button", {u"Motor", u"BOOL", u"Start button"}},
-        {u"a\t\tb", {u"a", u"b"}},
-        {u"\ta\t", {u"a"}},
-        {u"\t\t", {}},
+        {VU_T(""), {}},
+        {VU_T("Motor"), {VU_T("Motor")}},
+        {VU_T("Motor\tBOOL\tStart button"), {VU_T("Motor"), VU_T("BOOL"), VU_T("Start button")}},
+        {VU_T("a\t\tb"), {VU_T("a"), VU_T("b")}},
+        {VU_T("\ta\t"), {VU_T("a")}},
+        {VU_T("\t\t"), {}},
     };
     for (const Row& r : rows) {
-        SCOPED_TRACE(std::string(r.text, r.text + std::u16string_view(r.text).size()));
+        SCOPED_TRACE(std::string(r.text, r.text + vu::StringView(r.text).size()));
         const auto parts = SplitColumns(r.text);
         ASSERT_EQ(r.parts.size(), parts.size());
         for (size_t i = 0; i < parts.size(); ++i)
-            EXPECT_EQ(r.parts[i], std::u16string(parts[i]));
+            EXPECT_EQ(r.parts[i], vu::String(parts[i]));
     }
 }
 
@@ -96,33 +96,33 @@ TEST(TreeListGeometry, ColumnStartsFollowTheTabStops) {
 }
 
 TEST(TreeListGeometry, FitTextKeepsTheLongestPrefixWithTheMarker) {
-    const MeasureText fixed = [](std::u16string_view s) { return static_cast<int>(s.size()) * 5; };
+    const MeasureText fixed = [](vu::StringView s) { return static_cast<int>(s.size()) * 5; };
     struct Row {
         const char* name;
-        const char16_t* text;
+        const WCHAR* text;
         int width;
-        std::u16string expected;
+        vu::String expected;
     } rows[] = {
-        {"fits", u"Motor", 25, u"Motor"},
-        {"one pixel short", u"Motors", 29, u" ... "},
-        {"prefix and marker", u"Conveyor_Speed", 45, u"Conv ... "},
-        {"only the marker", u"Conveyor", 25, u" ... "},
-        {"not even the marker", u"Conveyor", 24, u""},
-        {"empty text", u"", 0, u""},
+        {"fits", VU_T("Motor"), 25, VU_T("Motor")},
+        {"one pixel short", VU_T("Motors"), 29, VU_T(" ... ")},
+        {"prefix and marker", VU_T("Conveyor_Speed"), 45, VU_T("Conv ... ")},
+        {"only the marker", VU_T("Conveyor"), 25, VU_T(" ... ")},
+        {"not even the marker", VU_T("Conveyor"), 24, VU_T("")},
+        {"empty text", VU_T(""), 0, VU_T("")},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
         EXPECT_EQ(r.expected, FitText(r.text, r.width, fixed));
     }
     // Proportional widths: 'W' is wide, the rest narrow.
-    const MeasureText proportional = [](std::u16string_view s) {
+    const MeasureText proportional = [](vu::StringView s) {
         int w = 0;
-        for (char16_t c : s)
-            w += c == u'W' ? 12 : 4;
+        for (WCHAR c : s)
+            w += c == VU_T('W') ? 12 : 4;
         return w;
     };
-    const std::u16string fitted = FitText(u"abWWWWcd", 40, proportional);
-    EXPECT_EQ(u"abW ... ", fitted);
+    const vu::String fitted = FitText(VU_T("abWWWWcd"), 40, proportional);
+    EXPECT_EQ(VU_T("abW ... "), fitted);
     EXPECT_LE(proportional(fitted), 40);
 }
 

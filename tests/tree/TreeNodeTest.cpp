@@ -13,7 +13,7 @@ namespace {
 
 // Builds nodes the way a control does: linked to the parent, appended to its
 // children, with level and handle set.
-CTreeNode* AddChild(CTreeNode* parent, const char16_t* text, int handle, unsigned long data = 0) {
+CTreeNode* AddChild(CTreeNode* parent, const WCHAR* text, int handle, unsigned long data = 0) {
     auto* node = new CTreeNode(CString(text), -1, -1, data, handle, parent);
     node->SetLevel(parent->GetLevel() + 1);
     parent->Add(node);
@@ -28,13 +28,13 @@ CTreeNode* AddChild(CTreeNode* parent, const char16_t* text, int handle, unsigne
 //     b1(6)
 //   c(7)
 struct SampleTree {
-    SampleTree() : root(CString(u"root"), 0, 1, 100, 1, nullptr) {
-        a = AddChild(&root, u"a", 2, 200);
-        a1 = AddChild(a, u"a1", 3, 300);
-        a2 = AddChild(a, u"a2", 4, 400);
-        b = AddChild(&root, u"b", 5, 500);
-        b1 = AddChild(b, u"b1", 6, 600);
-        c = AddChild(&root, u"c", 7, 700);
+    SampleTree() : root(CString(VU_T("root")), 0, 1, 100, 1, nullptr) {
+        a = AddChild(&root, VU_T("a"), 2, 200);
+        a1 = AddChild(a, VU_T("a1"), 3, 300);
+        a2 = AddChild(a, VU_T("a2"), 4, 400);
+        b = AddChild(&root, VU_T("b"), 5, 500);
+        b1 = AddChild(b, VU_T("b1"), 6, 600);
+        c = AddChild(&root, VU_T("c"), 7, 700);
     }
     CTreeNode root;
     CTreeNode *a, *a1, *a2, *b, *b1, *c;
@@ -43,25 +43,25 @@ struct SampleTree {
 // ---- Construction and flags -------------------------------------------------
 
 TEST(TreeNode, EmptyTextMakesASeparatorAndLaterTextsDoNotChangeIt) {
-    CTreeNode separator(CString(u""), 1, 2, 0, 1, nullptr);
+    CTreeNode separator(CString(VU_T("")), 1, 2, 0, 1, nullptr);
     EXPECT_TRUE(separator.IsSeparator());
-    separator.SetDisplayText(CString(u"now with text"));
+    separator.SetDisplayText(CString(VU_T("now with text")));
     EXPECT_TRUE(separator.IsSeparator());
 
-    CTreeNode item(CString(u"x"), VU_CImageIndexArray(), 0, 2, nullptr);
+    CTreeNode item(CString(VU_T("x")), VU_CImageIndexArray(), 0, 2, nullptr);
     EXPECT_FALSE(item.IsSeparator());
-    item.SetDisplayText(CString(u""));
+    item.SetDisplayText(CString(VU_T("")));
     EXPECT_FALSE(item.IsSeparator());
 }
 
 TEST(TreeNode, LeafIsNeverExpanded) {
-    CTreeNode leaf(CString(u"leaf"), 0, 0, 0, 1, nullptr);
+    CTreeNode leaf(CString(VU_T("leaf")), 0, 0, 0, 1, nullptr);
     leaf.Expand(1);
     EXPECT_EQ(0, leaf.IsExpanded());
     leaf.SetExpandFlag(1);
     EXPECT_EQ(0, leaf.IsExpanded());
 
-    AddChild(&leaf, u"child", 2);
+    AddChild(&leaf, VU_T("child"), 2);
     leaf.SetExpandFlag(7); // the flag is stored as given
     EXPECT_EQ(7, leaf.IsExpanded());
     leaf.Expand(0);
@@ -94,12 +94,12 @@ TEST(TreeNode, ImageLookups) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        CTreeNode node(CString(u"n"), row.images ? *row.images : VU_CImageIndexArray(), 0, 1,
+        CTreeNode node(CString(VU_T("n")), row.images ? *row.images : VU_CImageIndexArray(), 0, 1,
                        nullptr);
         EXPECT_EQ(row.normal, node.GetImageIndex(row.state));
         EXPECT_EQ(row.selected, node.GetSelectedImageIndex(row.state));
     }
-    CTreeNode copy(CString(u"n"), pair, 0, 1, nullptr);
+    CTreeNode copy(CString(VU_T("n")), pair, 0, 1, nullptr);
     pair.SetAt(0, 99);
     EXPECT_EQ(3, copy.GetImageIndex(0)) << "the node holds a copy";
 
@@ -171,33 +171,33 @@ TEST(TreeNode, GetChildOutOfRangeThrows) {
 }
 
 TEST(TreeNode, FindNoCaseChildString) {
-    CTreeNode root(CString(u"Drives"), 0, 0, 0, 1, nullptr);
-    AddChild(&root, u"Motor\tstopped", 2);
-    CTreeNode* motors = AddChild(&root, u"Motors", 3);
-    AddChild(motors, u"Motor", 4);
-    CTreeNode* group = AddChild(&root, u"Pumps", 5);
-    AddChild(group, u"PUMP_1\tBOOL", 6);
+    CTreeNode root(CString(VU_T("Drives")), 0, 0, 0, 1, nullptr);
+    AddChild(&root, VU_T("Motor\tstopped"), 2);
+    CTreeNode* motors = AddChild(&root, VU_T("Motors"), 3);
+    AddChild(motors, VU_T("Motor"), 4);
+    CTreeNode* group = AddChild(&root, VU_T("Pumps"), 5);
+    AddChild(group, VU_T("PUMP_1\tBOOL"), 6);
 
     struct Row {
         const char* name;
         CTreeNode* node;
-        const char16_t* text;
+        const WCHAR* text;
         bool matchParents;
         int length;
         int exact;
         int expected;
     } rows[] = {
-        {"prefix, case-blind", &root, u"motor", false, 5, 0, 2},
-        {"exact before tab", &root, u"motor", false, 5, 1, 2},
-        {"a parent is no candidate without matchParents", &root, u"MOTORS", false, 6, 1, -1},
-        {"exact parent with matchParents", &root, u"MOTORS", true, 6, 1, 3},
-        {"parents skipped without matchParents", &root, u"Pumps", false, 5, 0, -1},
-        {"parents match with matchParents", &root, u"pumps", true, 5, 0, 5},
-        {"child of a parent", &root, u"pump_1", false, 6, 1, 6},
-        {"prefix longer than every text", &root, u"Motor\tstopped and more", false, 30, 0, -1},
-        {"short prefix of a longer key", &root, u"Mxyz", false, 1, 0, 2},
-        {"matchParents finds the root first", &root, u"d", true, 1, 0, 1},
-        {"no match", &root, u"valve", true, 5, 0, -1},
+        {"prefix, case-blind", &root, VU_T("motor"), false, 5, 0, 2},
+        {"exact before tab", &root, VU_T("motor"), false, 5, 1, 2},
+        {"a parent is no candidate without matchParents", &root, VU_T("MOTORS"), false, 6, 1, -1},
+        {"exact parent with matchParents", &root, VU_T("MOTORS"), true, 6, 1, 3},
+        {"parents skipped without matchParents", &root, VU_T("Pumps"), false, 5, 0, -1},
+        {"parents match with matchParents", &root, VU_T("pumps"), true, 5, 0, 5},
+        {"child of a parent", &root, VU_T("pump_1"), false, 6, 1, 6},
+        {"prefix longer than every text", &root, VU_T("Motor\tstopped and more"), false, 30, 0, -1},
+        {"short prefix of a longer key", &root, VU_T("Mxyz"), false, 1, 0, 2},
+        {"matchParents finds the root first", &root, VU_T("d"), true, 1, 0, 1},
+        {"no match", &root, VU_T("valve"), true, 5, 0, -1},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -207,12 +207,12 @@ TEST(TreeNode, FindNoCaseChildString) {
 }
 
 TEST(TreeNode, ExactSearchPrunesOnlyTheMismatchingSubtree) {
-    CTreeNode root(CString(u"root"), 0, 0, 0, 1, nullptr);
-    CTreeNode* motors = AddChild(&root, u"Motors", 2);
-    AddChild(motors, u"Motor", 3);     // hidden behind "Motors"
-    AddChild(&root, u"motor\tINT", 4); // a later sibling is still searched
-    EXPECT_EQ(4, root.FindNoCaseChildString(CString(u"Motor"), true, 5, 1));
-    EXPECT_EQ(3, root.FindNoCaseChildString(CString(u"Motor"), false, 5, 1))
+    CTreeNode root(CString(VU_T("root")), 0, 0, 0, 1, nullptr);
+    CTreeNode* motors = AddChild(&root, VU_T("Motors"), 2);
+    AddChild(motors, VU_T("Motor"), 3);     // hidden behind "Motors"
+    AddChild(&root, VU_T("motor\tINT"), 4); // a later sibling is still searched
+    EXPECT_EQ(4, root.FindNoCaseChildString(CString(VU_T("Motor")), true, 5, 1));
+    EXPECT_EQ(3, root.FindNoCaseChildString(CString(VU_T("Motor")), false, 5, 1))
         << "without matchParents Motors is not a candidate, so its child is searched";
 }
 
@@ -289,16 +289,16 @@ TEST(TreeNode, DestroyingANodeDestroysItsSubtreeThroughVirtualDestructors) {
 
 TEST(TreeNode, DeepChainIsWalkedAndDestroyedWithoutRecursion) {
     const int depth = 200000;
-    auto root = std::make_unique<CTreeNode>(CString(u"0"), -1, -1, 0, 0, nullptr);
+    auto root = std::make_unique<CTreeNode>(CString(VU_T("0")), -1, -1, 0, 0, nullptr);
     CTreeNode* tip = root.get();
     for (int i = 1; i < depth; ++i) {
-        tip = AddChild(tip, u"x", i, static_cast<unsigned long>(i));
+        tip = AddChild(tip, VU_T("x"), i, static_cast<unsigned long>(i));
         tip->GetParent()->Expand(1);
     }
     EXPECT_EQ(depth, root->GetNumberOfNodes());
     EXPECT_EQ(depth - 1, root->ComputeNumberOfExpandedNodesShowing());
     EXPECT_EQ(tip, root->FindNode(depth - 1));
-    EXPECT_EQ(-1, root->FindNoCaseChildString(CString(u"y"), true, 1, 0));
+    EXPECT_EQ(-1, root->FindNoCaseChildString(CString(VU_T("y")), true, 1, 0));
     root.reset(); // must not overflow the stack
 }
 
@@ -306,21 +306,22 @@ TEST(TreeNode, DeepChainIsWalkedAndDestroyedWithoutRecursion) {
 
 TEST(TreeNodeXml, ArrayConcatenatesRootsAndTheCounterRunsOn) {
     SampleTree t;
-    CTreeNode other(CString(u"x<&>\"'y"), 0, 0, 0, 9, nullptr);
-    AddChild(&other, u"\u00e9t\u00e9", 10);
+    CTreeNode other(CString(VU_T("x<&>\"'y")), 0, 0, 0, 9, nullptr);
+    AddChild(&other, VU_T("\u00e9t\u00e9"), 10);
     other.Expand(1);
     CTreeNodeArray roots;
     roots.Add(&t.root); // collapsed: its children are not written
     roots.Add(&other);
     CTreeNode::ResetXmlRowCounter(-1);
-    const std::u16string xml = roots.XmlGetString();
-    const std::u16string expected =
-        u"<HbxListNode><id>0</id><expanded>false</expanded><selected>false</selected>"
-        u"<text>root</text><parent></parent></HbxListNode>"
-        u"<HbxListNode><id>1</id><expanded>true</expanded><selected>false</selected>"
-        u"<text>x&lt;&amp;&gt;&quot;&apos;y</text><parent></parent></HbxListNode>"
-        u"<HbxListNode><id>2</id><expanded>false</expanded><selected>false</selected>"
-        u"<text>\u00e9t\u00e9</text><parent>x&lt;&amp;&gt;&quot;&apos;y</parent></HbxListNode>";
+    const vu::String xml = roots.XmlGetString();
+    const vu::String expected =
+        VU_T("<HbxListNode><id>0</id><expanded>false</expanded><selected>false</selected>") VU_T(
+            "<text>root</text><parent></parent></HbxListNode>")
+            VU_T("<HbxListNode><id>1</id><expanded>true</expanded><selected>false</selected>") VU_T(
+                "<text>x&lt;&amp;&gt;&quot;&apos;y</text><parent></parent></HbxListNode>")
+                VU_T("<HbxListNode><id>2</id><expanded>false</expanded><selected>false</selected>")
+                    VU_T("<text>\u00e9t\u00e9</text><parent>x&lt;&amp;&gt;&quot;&apos;y</parent></"
+                         "HbxListNode>");
     EXPECT_EQ(expected, xml);
     EXPECT_EQ(3, CTreeNode::GetXmlRowCounter());
     roots.RemoveAll(); // the array does not own its entries

@@ -1,6 +1,5 @@
 #include "tree/win/SummaryListBox.h"
 
-#include "framework/win/Wide.h"
 #include "tree/TreeListGeometry.h"
 
 VU_CSummaryListBox::~VU_CSummaryListBox() {
@@ -96,7 +95,7 @@ void VU_CSummaryListBox::DrawItem(LPDRAWITEMSTRUCT dis) {
         if (base != nullptr)
             oldFont = SelectObject(dis->hDC, GetHeaderFont(base));
     }
-    DrawTextW(dis->hDC, vu::W(text.GetString()), text.GetLength(), &rc,
+    DrawTextW(dis->hDC, text.GetString(), text.GetLength(), &rc,
               DT_SINGLELINE | DT_VCENTER | DT_EXPANDTABS);
     if (oldFont != nullptr)
         SelectObject(dis->hDC, oldFont);

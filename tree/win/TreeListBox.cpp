@@ -2,7 +2,6 @@
 
 #include "foundation/win/Library.h"
 #include "framework/win/Bitmap.h"
-#include "framework/win/Wide.h"
 #include "text/XmlWriter.h"
 #include "tree/TreeImages.h"
 #include "tree/TreeListGeometry.h"
@@ -38,13 +37,13 @@ private:
     CTreeNode* m_found = nullptr;
 };
 
-int TextWidth(HDC dc, std::u16string_view text) {
+int TextWidth(HDC dc, std::wstring_view text) {
     SIZE size{};
-    GetTextExtentPoint32W(dc, vu::W(text.data()), static_cast<int>(text.size()), &size);
+    GetTextExtentPoint32W(dc, text.data(), static_cast<int>(text.size()), &size);
     return size.cx;
 }
 
-CString ToCString(std::u16string_view text) {
+CString ToCString(std::wstring_view text) {
     return CString(text.data(), static_cast<int>(text.size()));
 }
 
@@ -612,7 +611,7 @@ void VU_CTreeListBox::ScrollItemIntoView(int row) {
 AF_GString VU_CTreeListBox::XmlGetString() {
     CTreeNode::ResetXmlRowCounter(GetSelectedRow());
     VU_CXmlWriter writer;
-    writer.WriteStartElement(AF_GString(u"HbxTreeList"));
+    writer.WriteStartElement(AF_GString(L"HbxTreeList"));
     writer.CloseOpenedElement();
     writer.WriteRaw(m_roots.XmlGetString());
     writer.WriteEndElement();
@@ -769,7 +768,7 @@ std::vector<int> VU_CTreeListBox::ColumnStartsFor(int columns) {
 CString VU_CTreeListBox::GetTabbedTextUnderPoint(const CPoint& point, const CString& text,
                                                  int* column) {
     const int textLeft = column != nullptr ? *column : 0;
-    const std::u16string_view view(text.GetString(), static_cast<size_t>(text.GetLength()));
+    const std::wstring_view view(text.GetString(), static_cast<size_t>(text.GetLength()));
     const auto parts = SplitColumns(view);
     const int index = ColumnAt(point.x - textLeft, ColumnStartsFor(static_cast<int>(parts.size())));
     if (column != nullptr)
@@ -792,7 +791,7 @@ BOOL VU_CTreeListBox::DoesTextFitWithinRect(int row) {
     HDC dc = ::GetDC(m_hWnd);
     HGDIOBJ old = SelectObject(dc, node->IsHeader() ? GetBoldFont() : GetControlFont());
     BOOL fits = TRUE;
-    const std::u16string_view view(text.GetString(), static_cast<size_t>(text.GetLength()));
+    const std::wstring_view view(text.GetString(), static_cast<size_t>(text.GetLength()));
     if (m_displayInColumns) {
         const auto parts = SplitColumns(view);
         const auto starts = ColumnStartsFor(static_cast<int>(parts.size()));
@@ -805,7 +804,7 @@ BOOL VU_CTreeListBox::DoesTextFitWithinRect(int row) {
         }
     } else {
         RECT calc{0, 0, 0, 0};
-        DrawTextW(dc, vu::W(text.GetString()), text.GetLength(), &calc,
+        DrawTextW(dc, text.GetString(), text.GetLength(), &calc,
                   DT_SINGLELINE | DT_EXPANDTABS | DT_NOPREFIX | DT_CALCRECT);
         fits = calc.right <= rc.right - left;
     }
@@ -946,15 +945,15 @@ void VU_CTreeListBox::DrawExpandButton(HDC dc, const RECT& rc, CTreeNode* node) 
 void VU_CTreeListBox::DrawRowText(HDC dc, RECT rc, const CString& text, bool header) {
     HGDIOBJ oldFont = SelectObject(dc, header ? GetBoldFont() : GetControlFont());
     const UINT flags = DT_SINGLELINE | DT_VCENTER | DT_EXPANDTABS | DT_NOPREFIX;
-    const std::u16string_view view(text.GetString(), static_cast<size_t>(text.GetLength()));
+    const std::wstring_view view(text.GetString(), static_cast<size_t>(text.GetLength()));
     if (!m_displayInColumns) {
-        DrawTextW(dc, vu::W(text.GetString()), text.GetLength(), &rc, flags);
+        DrawTextW(dc, text.GetString(), text.GetLength(), &rc, flags);
     } else {
         // Each tab-separated part starts at the next tab stop and keeps to
         // its column; what does not fit ends in " ... ".
         const auto parts = SplitColumns(view);
         const auto starts = ColumnStartsFor(static_cast<int>(parts.size()));
-        const MeasureText measure = [dc](std::u16string_view s) { return TextWidth(dc, s); };
+        const MeasureText measure = [dc](std::wstring_view s) { return TextWidth(dc, s); };
         for (size_t k = 0; k < parts.size(); ++k) {
             RECT column = rc;
             column.left = rc.left + starts[k];
@@ -962,8 +961,8 @@ void VU_CTreeListBox::DrawRowText(HDC dc, RECT rc, const CString& text, bool hea
                 column.right = std::min<LONG>(rc.right, rc.left + starts[k + 1] - kColumnGap);
             if (column.right <= column.left)
                 continue;
-            const std::u16string shown = FitText(parts[k], column.right - column.left, measure);
-            DrawTextW(dc, vu::W(shown.c_str()), static_cast<int>(shown.size()), &column, flags);
+            const std::wstring shown = FitText(parts[k], column.right - column.left, measure);
+            DrawTextW(dc, shown.c_str(), static_cast<int>(shown.size()), &column, flags);
         }
     }
     SelectObject(dc, oldFont);
@@ -1169,11 +1168,11 @@ LRESULT VU_CTreeListBox::OnFocusChange(UINT message, WPARAM wParam, LPARAM lPara
 
 LRESULT VU_CTreeListBox::OnGetText(WPARAM wParam, LPARAM lParam) {
     const CTreeNode* node = GetNode(static_cast<int>(wParam));
-    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    auto* buffer = reinterpret_cast<wchar_t*>(lParam);
     if (node == nullptr || buffer == nullptr)
         return LB_ERR;
     const CString text = node->GetDisplayText();
-    std::memcpy(buffer, text.GetString(), sizeof(char16_t) * static_cast<size_t>(text.GetLength()));
+    std::memcpy(buffer, text.GetString(), sizeof(wchar_t) * static_cast<size_t>(text.GetLength()));
     buffer[text.GetLength()] = 0;
     return text.GetLength();
 }
@@ -1186,7 +1185,7 @@ LRESULT VU_CTreeListBox::OnGetTextLen(WPARAM wParam, LPARAM) {
 }
 
 LRESULT VU_CTreeListBox::OnFindString(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto* text = reinterpret_cast<const char16_t*>(lParam);
+    const auto* text = reinterpret_cast<const wchar_t*>(lParam);
     if (text == nullptr)
         return CListBox::WindowProc(message, wParam, lParam);
     const CString key(text);
@@ -1226,7 +1225,7 @@ BOOL VU_CTreeListBox::GetToolTipText(NMTTDISPINFOW* info, LRESULT* result) {
     if (info == nullptr)
         return FALSE;
     m_tooltipBuffer[0] = 0;
-    info->lpszText = vu::W(m_tooltipBuffer);
+    info->lpszText = m_tooltipBuffer;
     info->szText[0] = 0;
     info->hinst = nullptr;
     if (result != nullptr)
@@ -1252,7 +1251,7 @@ BOOL VU_CTreeListBox::GetToolTipText(NMTTDISPINFOW* info, LRESULT* result) {
     }
     m_tooltipText = text;
     const int length = std::min(text.GetLength(), static_cast<int>(std::size(m_tooltipBuffer)) - 1);
-    std::memcpy(m_tooltipBuffer, text.GetString(), sizeof(char16_t) * static_cast<size_t>(length));
+    std::memcpy(m_tooltipBuffer, text.GetString(), sizeof(wchar_t) * static_cast<size_t>(length));
     m_tooltipBuffer[length] = 0;
     return TRUE;
 }

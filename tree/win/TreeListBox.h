@@ -220,7 +220,7 @@ private:
     CImageList m_ownImageList;                 // bitmap 2336, 16-pixel images
     CTreeNodeArray m_roots;                    // owned
     CWordArray m_tabStops;                     // in average character widths
-    char16_t m_tooltipBuffer[502] = {};        // text handed to the tool tip
+    wchar_t m_tooltipBuffer[502] = {};         // text handed to the tool tip
     CString m_tooltipText;                     // text of the last tool tip
     int m_tooltipRow = -1;                     // row whose tool tip shows
     int m_useTooltipParent = 0;

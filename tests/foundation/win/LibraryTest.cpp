@@ -12,14 +12,13 @@
 #include "foundation/win/Library.h"
 #include "framework/win/DumpContext.h"
 #include "framework/win/DynLinkLibrary.h"
-#include "framework/win/Wide.h"
 #include "resources/resource.h"
 #include "support/TestWindow.h"
 
 namespace {
 
-std::u16string Str(const CString& s) {
-    return std::u16string(s.GetString());
+std::wstring Str(const CString& s) {
+    return std::wstring(s.GetString());
 }
 
 TEST(LibraryTest, InstanceHandleIsTheDllsModuleSearchedAfterTheHost) {
@@ -38,24 +37,24 @@ TEST(LibraryTest, InstanceHandleIsTheDllsModuleSearchedAfterTheHost) {
 // Ids 2002 to 2017 in turn, '|' between them; an empty text means no string,
 // as for 1 and 65535.
 TEST(LibraryTest, StringTableThroughTheChain) {
-    const std::u16string texts = u"Fatal Error: |\nApplication will terminate.|Condition:|||OK|"
-                                 u"Cancel|Help|Yes|No|Close|Retry|Abort|Ignore|Unknown||";
-    auto check = [](UINT id, const std::u16string& expected) {
+    const std::wstring texts = L"Fatal Error: |\nApplication will terminate.|Condition:|||OK|"
+                               L"Cancel|Help|Yes|No|Close|Retry|Abort|Ignore|Unknown||";
+    auto check = [](UINT id, const std::wstring& expected) {
         SCOPED_TRACE(id);
-        CString text(u"stale");
+        CString text(L"stale");
         EXPECT_EQ(AfxLoadString(id, text), !expected.empty());
         EXPECT_EQ(Str(text), expected);
         wchar_t buffer[64] = {}; // the same text straight from the library's module
         int length = LoadStringW(VuGetInstanceHandle(), id, buffer, 64);
-        EXPECT_EQ(std::u16string(vu::U(buffer), length), expected);
+        EXPECT_EQ(std::wstring(buffer, length), expected);
     };
     UINT id = 2002;
-    for (std::size_t start = 0, bar; (bar = texts.find(u'|', start)) != std::u16string::npos;
+    for (std::size_t start = 0, bar; (bar = texts.find(L'|', start)) != std::wstring::npos;
          start = bar + 1)
         check(id++, texts.substr(start, bar - start));
     EXPECT_EQ(id, 2018u);
-    check(1, u"");
-    check(65535, u"");
+    check(1, L"");
+    check(65535, L"");
 }
 
 TEST(LibraryTest, TraceDumpIsMadeOnceAndWritesToTheTempFile) {
@@ -67,12 +66,12 @@ TEST(LibraryTest, TraceDumpIsMadeOnceAndWritesToTheTempFile) {
     CString expectedPath = Vu_CDumpFile::DefaultDumpPath();
     EXPECT_EQ(Str(file->GetDumpPath()), Str(expectedPath));
     CString name;
-    name.Format(u"\\VuLib-%u.log", static_cast<unsigned>(GetCurrentProcessId()));
+    name.Format(L"\\VuLib-%u.log", static_cast<unsigned>(GetCurrentProcessId()));
     EXPECT_EQ(Str(expectedPath).substr(expectedPath.GetLength() - name.GetLength()), Str(name));
 
-    *dump << u"trace Ä " << 42 << u" " << -7 << u"\n";
+    *dump << L"trace Ä " << 42 << L" " << -7 << L"\n";
     dump->Flush();
-    HANDLE h = CreateFileW(vu::W(expectedPath.GetString()), GENERIC_READ,
+    HANDLE h = CreateFileW(expectedPath.GetString(), GENERIC_READ,
                            FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(h, INVALID_HANDLE_VALUE);
     char bytes[256] = {};
@@ -85,45 +84,45 @@ TEST(LibraryTest, TraceDumpIsMadeOnceAndWritesToTheTempFile) {
 // ---- host services: defaults ------------------------------------------------------
 
 TEST(HostServicesTest, ProfileValuesRoundTripThroughTheRegistry) {
-    const char16_t* kSection = u"Profile Test Section";
+    const wchar_t* kSection = L"Profile Test Section";
     VU_CHostServices services;
     services.WriteProfileString(kSection, nullptr, nullptr); // left from an earlier run
-    EXPECT_EQ(services.GetProfileInt(kSection, u"Splitter", 120), 120u);
-    EXPECT_TRUE(services.WriteProfileInt(kSection, u"Splitter", 345));
-    EXPECT_EQ(services.GetProfileInt(kSection, u"Splitter", 120), 345u);
-    EXPECT_TRUE(services.WriteProfileInt(kSection, u"Negative", -2));
-    EXPECT_EQ(static_cast<int>(services.GetProfileInt(kSection, u"Negative", 0)), -2);
+    EXPECT_EQ(services.GetProfileInt(kSection, L"Splitter", 120), 120u);
+    EXPECT_TRUE(services.WriteProfileInt(kSection, L"Splitter", 345));
+    EXPECT_EQ(services.GetProfileInt(kSection, L"Splitter", 120), 345u);
+    EXPECT_TRUE(services.WriteProfileInt(kSection, L"Negative", -2));
+    EXPECT_EQ(static_cast<int>(services.GetProfileInt(kSection, L"Negative", 0)), -2);
 
-    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Name", u"fallback")), u"fallback");
-    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Name")), u"");
-    EXPECT_TRUE(services.WriteProfileString(kSection, u"Name", u"Rung Ä 7"));
-    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Name", u"fallback")), u"Rung Ä 7");
-    EXPECT_TRUE(services.WriteProfileString(kSection, u"Empty", u""));
-    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Empty", u"fallback")), u"");
+    EXPECT_EQ(Str(services.GetProfileString(kSection, L"Name", L"fallback")), L"fallback");
+    EXPECT_EQ(Str(services.GetProfileString(kSection, L"Name")), L"");
+    EXPECT_TRUE(services.WriteProfileString(kSection, L"Name", L"Rung Ä 7"));
+    EXPECT_EQ(Str(services.GetProfileString(kSection, L"Name", L"fallback")), L"Rung Ä 7");
+    EXPECT_TRUE(services.WriteProfileString(kSection, L"Empty", L""));
+    EXPECT_EQ(Str(services.GetProfileString(kSection, L"Empty", L"fallback")), L"");
 
     // The value really is in the registry, under a key named after the host.
     EXPECT_EQ(Str(VU_CHostServices::GetDefaultProfileKey()),
-              u"Software\\VuLib\\vulib_foundation_win_tests");
-    CString path = VU_CHostServices::GetDefaultProfileKey() + u"\\" + kSection;
+              L"Software\\VuLib\\vulib_foundation_win_tests");
+    CString path = VU_CHostServices::GetDefaultProfileKey() + L"\\" + kSection;
     DWORD value = 0, size = sizeof(value);
-    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, vu::W(path.GetString()), L"Splitter",
-                           RRF_RT_REG_DWORD, nullptr, &value, &size),
+    EXPECT_EQ(RegGetValueW(HKEY_CURRENT_USER, path.GetString(), L"Splitter", RRF_RT_REG_DWORD,
+                           nullptr, &value, &size),
               ERROR_SUCCESS);
     EXPECT_EQ(value, 345u);
 
     // Wrong types and removed values give the default.
-    services.WriteProfileString(kSection, u"Text", u"17");
-    EXPECT_EQ(services.GetProfileInt(kSection, u"Text", 4), 4u);
-    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Splitter", u"none")), u"none");
+    services.WriteProfileString(kSection, L"Text", L"17");
+    EXPECT_EQ(services.GetProfileInt(kSection, L"Text", 4), 4u);
+    EXPECT_EQ(Str(services.GetProfileString(kSection, L"Splitter", L"none")), L"none");
 
-    EXPECT_TRUE(services.WriteProfileString(kSection, u"Splitter", nullptr));
-    EXPECT_EQ(services.GetProfileInt(kSection, u"Splitter", 4), 4u);
-    EXPECT_TRUE(services.WriteProfileString(kSection, u"Splitter", nullptr)); // already gone
+    EXPECT_TRUE(services.WriteProfileString(kSection, L"Splitter", nullptr));
+    EXPECT_EQ(services.GetProfileInt(kSection, L"Splitter", 4), 4u);
+    EXPECT_TRUE(services.WriteProfileString(kSection, L"Splitter", nullptr)); // already gone
 
     EXPECT_TRUE(services.WriteProfileString(kSection, nullptr, nullptr));
-    EXPECT_EQ(Str(services.GetProfileString(kSection, u"Text", u"gone")), u"gone");
+    EXPECT_EQ(Str(services.GetProfileString(kSection, L"Text", L"gone")), L"gone");
     EXPECT_FALSE(services.WriteProfileInt(kSection, nullptr, 1));
-    EXPECT_FALSE(services.WriteProfileString(nullptr, u"Entry", u"x"));
+    EXPECT_FALSE(services.WriteProfileString(nullptr, L"Entry", L"x"));
 }
 
 TEST(HostServicesTest, SafeOwnerIsTheTopLevelWindow) {
@@ -158,19 +157,19 @@ TEST(HostServicesTest, WaitCursorNestsAndRestores) {
 
 TEST(HostServicesTest, InstalledServicesReplaceTheDefaultsAndCanBeRemoved) {
     struct Audit : VU_CHostServices {
-        void LogAuditTrail(DWORD type, const char16_t* function, const char16_t* text) override {
-            last = std::u16string(function) + u"|" + text + u"|" + char16_t(u'0' + type % 10);
+        void LogAuditTrail(DWORD type, const wchar_t* function, const wchar_t* text) override {
+            last = std::wstring(function) + L"|" + text + L"|" + wchar_t(L'0' + type % 10);
         }
-        std::u16string last;
+        std::wstring last;
     } audit;
     VU_CHostServices* defaults = VuSetHostServices(&audit);
     EXPECT_EQ(VuGetHostServices(), &audit);
-    MDLogAuditTrailMsg(132, u"Fn()", u"text");
-    EXPECT_EQ(audit.last, u"Fn()|text|2");
+    MDLogAuditTrailMsg(132, L"Fn()", L"text");
+    EXPECT_EQ(audit.last, L"Fn()|text|2");
     EXPECT_EQ(VuSetHostServices(nullptr), &audit);
     EXPECT_EQ(VuGetHostServices(), defaults);
-    MDLogAuditTrailMsg(132, u"Fn()", u"again"); // to the debugger, not to audit
-    EXPECT_EQ(audit.last, u"Fn()|text|2");
+    MDLogAuditTrailMsg(132, L"Fn()", L"again"); // to the debugger, not to audit
+    EXPECT_EQ(audit.last, L"Fn()|text|2");
 }
 
 } // namespace

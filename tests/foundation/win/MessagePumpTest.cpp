@@ -9,7 +9,6 @@
 #include "foundation/win/HostServices.h"
 #include "foundation/win/MessagePump.h"
 #include "framework/win/ThreadState.h"
-#include "framework/win/Wide.h"
 #include "framework/win/WinThread.h"
 #include "framework/win/Wnd.h"
 #include "support/TestWindow.h"
@@ -18,15 +17,15 @@ namespace {
 
 struct AuditEntry {
     DWORD type;
-    std::u16string function;
-    std::u16string text;
+    std::wstring function;
+    std::wstring text;
     double atMs;
 };
 
 // Records audit entries and wait-cursor calls instead of showing them.
 class RecordingServices : public VU_CHostServices {
 public:
-    void LogAuditTrail(DWORD type, const char16_t* function, const char16_t* text) override {
+    void LogAuditTrail(DWORD type, const wchar_t* function, const wchar_t* text) override {
         entries.push_back({type, function, text, vutest::NowMs()});
     }
     void BeginWaitCursor() override { ++begins; }
@@ -67,7 +66,7 @@ protected:
     VU_CHostServices* previous = nullptr;
 };
 
-std::u16string S(const CString& s) {
+std::wstring S(const CString& s) {
     return s.GetString();
 }
 
@@ -118,7 +117,7 @@ TEST_F(MessagePumpTest, KickIdleIsNeitherTranslatedNorDispatched) {
     EXPECT_TRUE(wnd.preTranslated.empty());
     EXPECT_EQ(window.Count(WM_KICKIDLE), 0);
     // The pump keeps the latest trace.
-    EXPECT_NE(S(VuGetLastPumpTrace()).find(u"0x0000036a - WM_KICKIDLE"), std::u16string::npos);
+    EXPECT_NE(S(VuGetLastPumpTrace()).find(L"0x0000036a - WM_KICKIDLE"), std::wstring::npos);
 
     // Any other message goes the whole way.
     PostMessageW(window.hwnd, WM_APP + 4, 0, 0);
@@ -140,8 +139,8 @@ TEST_F(MessagePumpTest, ControlNotificationIsAuditedAndDelayed) {
     ASSERT_EQ(services.entries.size(), 1u);
     const AuditEntry& entry = services.entries[0];
     EXPECT_EQ(entry.type, 132u);
-    EXPECT_EQ(entry.function, u"VuInternalPumpMessage()");
-    EXPECT_EQ(entry.text, u"Sleep(150) before Dispatch...");
+    EXPECT_EQ(entry.function, L"VuInternalPumpMessage()");
+    EXPECT_EQ(entry.text, L"Sleep(150) before Dispatch...");
     ASSERT_GT(dispatchedAt, 0);
     // The entry is written before the pause; the pause comes before dispatch.
     EXPECT_GE(dispatchedAt - entry.atMs, 140.0);
@@ -189,16 +188,16 @@ TEST_F(MessagePumpTest, WaitForMessageTimesOut) {
 TEST(MessageTraceTest, MessageNames) {
     struct Row {
         UINT message;
-        const char16_t* expected;
+        const wchar_t* expected;
     };
     const Row rows[] = {
-        {15, u"0x0000000f - WM_PAINT"},
-        {275, u"0x00000113 - WM_TIMER"},
-        {512, u"0x00000200 - WM_MOUSEFIRST or WM_MOUSEMOVE"},
-        {1186, u"0x000004a2 - CO_NOTIFICATION - WM_USER+128+34 - WM_AF_NOTIF_FIRST+34"},
-        {1192, u"0x000004a8 - WM_DW_RUNGNOTIFWINDOWMESSAGE - what?"},
-        {16, u"0x00000010 - <unknown>"},
-        {0xC123, u"0x0000c123 - <unknown>"},
+        {15, L"0x0000000f - WM_PAINT"},
+        {275, L"0x00000113 - WM_TIMER"},
+        {512, L"0x00000200 - WM_MOUSEFIRST or WM_MOUSEMOVE"},
+        {1186, L"0x000004a2 - CO_NOTIFICATION - WM_USER+128+34 - WM_AF_NOTIF_FIRST+34"},
+        {1192, L"0x000004a8 - WM_DW_RUNGNOTIFWINDOWMESSAGE - what?"},
+        {16, L"0x00000010 - <unknown>"},
+        {0xC123, L"0x0000c123 - <unknown>"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.message);
@@ -218,30 +217,30 @@ TEST(MessageTraceTest, FullDescriptionSameAndWindowText) {
     msg.pt.y = -1;
     CString expected;
     expected.Format(
-        u"\n\t\tThreadID = 0x%08x\n\t\tText     = Unavailable\n\t\thwnd     = 0x00001234"
-        u"\n\t\tmessage  = 0x00000113 - WM_TIMER\n\t\twParam   = 0x0000abcd"
-        u"\n\t\tlParam   = 0x00000010\n\t\ttime     = 0x00000099"
-        u"\n\t\tpt.x     = 0x0000000c\n\t\tpt.y     = 0xffffffff\n\t\t",
+        L"\n\t\tThreadID = 0x%08x\n\t\tText     = Unavailable\n\t\thwnd     = 0x00001234"
+        L"\n\t\tmessage  = 0x00000113 - WM_TIMER\n\t\twParam   = 0x0000abcd"
+        L"\n\t\tlParam   = 0x00000010\n\t\ttime     = 0x00000099"
+        L"\n\t\tpt.x     = 0x0000000c\n\t\tpt.y     = 0xffffffff\n\t\t",
         static_cast<unsigned>(GetCurrentThreadId()));
     EXPECT_EQ(S(VuDescribeMessage(msg)), S(expected));
-    EXPECT_EQ(S(VuDescribeMessage(msg)), u"same");
+    EXPECT_EQ(S(VuDescribeMessage(msg)), L"same");
 
     // Any one of the seven fields makes it new again.
     MSG changed = msg;
     changed.pt.y = 0;
-    EXPECT_NE(S(VuDescribeMessage(changed)), u"same");
-    EXPECT_EQ(S(VuDescribeMessage(changed)), u"same");
+    EXPECT_NE(S(VuDescribeMessage(changed)), L"same");
+    EXPECT_EQ(S(VuDescribeMessage(changed)), L"same");
 
     // A real window shows its text once the framework knows it; the hwnd and
     // then the time make the message new.
     vutest::PlainWindow window;
     SetWindowTextW(window.hwnd, L"Rung 12");
     changed.hwnd = window.hwnd;
-    EXPECT_NE(S(VuDescribeMessage(changed)).find(u"Text     = Unavailable"), std::u16string::npos);
+    EXPECT_NE(S(VuDescribeMessage(changed)).find(L"Text     = Unavailable"), std::wstring::npos);
     CWnd wnd;
     ASSERT_TRUE(wnd.Attach(window.hwnd));
     changed.time += 1;
-    EXPECT_NE(S(VuDescribeMessage(changed)).find(u"Text     = Rung 12\n"), std::u16string::npos);
+    EXPECT_NE(S(VuDescribeMessage(changed)).find(L"Text     = Rung 12\n"), std::wstring::npos);
     wnd.Detach();
 }
 

@@ -20,7 +20,7 @@ constexpr std::size_t kBuffer = 4096;
 
 struct Split {
     bool ok = true;
-    std::u16string drive, dir, fname, ext;
+    std::wstring drive, dir, fname, ext;
     bool operator==(const Split&) const = default;
 };
 
@@ -29,7 +29,7 @@ struct Mask {
     bool drive, dir, fname, ext;
 };
 
-Split RuntimeSplit(const std::u16string& path, Mask mask) {
+Split RuntimeSplit(const std::wstring& path, Mask mask) {
     static wchar_t d[kBuffer], di[kBuffer], f[kBuffer], e[kBuffer];
     // Fill with a marker so a part the runtime leaves alone is visible.
     for (auto* buf : {d, di, f, e}) {
@@ -42,7 +42,7 @@ Split RuntimeSplit(const std::u16string& path, Mask mask) {
     Split s;
     s.ok = errno != ERANGE;
     auto take = [](bool wanted, const wchar_t* buf) {
-        return wanted ? std::u16string(reinterpret_cast<const char16_t*>(buf)) : std::u16string();
+        return wanted ? std::wstring(reinterpret_cast<const wchar_t*>(buf)) : std::wstring();
     };
     s.drive = take(mask.drive, d);
     s.dir = take(mask.dir, di);
@@ -51,20 +51,20 @@ Split RuntimeSplit(const std::u16string& path, Mask mask) {
     return s;
 }
 
-Split CoreSplit(const std::u16string& path, Mask mask) {
+Split CoreSplit(const std::wstring& path, Mask mask) {
     Split s;
     s.ok = vu::SplitPath(path.c_str(), mask.drive ? &s.drive : nullptr, mask.dir ? &s.dir : nullptr,
                          mask.fname ? &s.fname : nullptr, mask.ext ? &s.ext : nullptr);
     return s;
 }
 
-std::string Show(const std::u16string& s) {
+std::string Show(const std::wstring& s) {
     std::ostringstream out;
     out << '"';
     if (s.size() > 60) {
         out << "<" << s.size() << " units>";
     } else {
-        for (char16_t c : s) {
+        for (wchar_t c : s) {
             if (c >= 0x20 && c < 0x7F)
                 out << static_cast<char>(c);
             else
@@ -82,8 +82,8 @@ std::string Show(const Split& s) {
 
 // Concatenates in order (the pieces are drawn left to right, so the
 // generated paths do not depend on the compiler's evaluation order).
-std::u16string Cat(std::initializer_list<std::u16string> parts) {
-    std::u16string out;
+std::wstring Cat(std::initializer_list<std::wstring> parts) {
+    std::wstring out;
     for (const auto& part : parts)
         out.append(part);
     return out;
@@ -97,8 +97,8 @@ class PathGenerator {
 public:
     explicit PathGenerator(unsigned seed) : m_rng(seed) {}
 
-    std::u16string Next() {
-        std::u16string path = Prefix();
+    std::wstring Next() {
+        std::wstring path = Prefix();
         const int components = Pick(0, 5);
         for (int i = 0; i < components; ++i) {
             path += Component();
@@ -106,7 +106,7 @@ public:
                 path += Separator();
         }
         if (Pick(0, 6) == 0)
-            path = Cat({u" ", path, u" "});
+            path = Cat({L" ", path, L" "});
         return path;
     }
 
@@ -120,50 +120,50 @@ public:
 private:
     int Pick(int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(m_rng); }
 
-    std::u16string Prefix() {
+    std::wstring Prefix() {
         // clang-format off
-        static const std::u16string prefixes[] = {
-            u"", u"C:", u"c:", u"z:\\", u"C:/", u"1:", u":", u"::", u"\\:", u".:", u"\\\\",
-            u"\\\\srv\\share\\", u"//srv/share/", u"\\", u"/", u".\\", u"..\\", u"../",
-            u"\\\\?\\C:\\", u"\u00e9:", u"C:\\\\"
+        static const std::wstring prefixes[] = {
+            L"", L"C:", L"c:", L"z:\\", L"C:/", L"1:", L":", L"::", L"\\:", L".:", L"\\\\",
+            L"\\\\srv\\share\\", L"//srv/share/", L"\\", L"/", L".\\", L"..\\", L"../",
+            L"\\\\?\\C:\\", L"\u00e9:", L"C:\\\\"
         };
         // clang-format on
         return prefixes[Pick(0, static_cast<int>(std::size(prefixes)) - 1)];
     }
 
-    std::u16string Separator() {
-        static const std::u16string seps[] = {u"\\", u"/", u"\\\\", u"//", u"\\/", u"/\\"};
+    std::wstring Separator() {
+        static const std::wstring seps[] = {L"\\", L"/", L"\\\\", L"//", L"\\/", L"/\\"};
         return seps[Pick(0, static_cast<int>(std::size(seps)) - 1)];
     }
 
-    std::u16string Component() {
+    std::wstring Component() {
         switch (Pick(0, 9)) {
         case 0:
-            return u".";
+            return L".";
         case 1:
-            return u"..";
+            return L"..";
         case 2:
-            return Cat({Word(Pick(1, 8)), u".", Word(Pick(0, 4))});
+            return Cat({Word(Pick(1, 8)), L".", Word(Pick(0, 4))});
         case 3:
-            return Cat({u".", Word(Pick(1, 5))});
+            return Cat({L".", Word(Pick(1, 5))});
         case 4:
-            return Cat({Word(Pick(1, 6)), u"."});
+            return Cat({Word(Pick(1, 6)), L"."});
         case 5:
-            return Cat({Word(Pick(1, 4)), u".", Word(Pick(1, 4)), u".", Word(Pick(0, 3))});
+            return Cat({Word(Pick(1, 4)), L".", Word(Pick(1, 4)), L".", Word(Pick(0, 3))});
         case 6: // around the 255-unit part limits
             return Word(Pick(245, 262));
         case 7:
-            return Cat({Word(Pick(120, 140)), u".", Word(Pick(110, 140))});
+            return Cat({Word(Pick(120, 140)), L".", Word(Pick(110, 140))});
         case 8:
-            return Cat({Word(Pick(1, 3)), u".", Word(Pick(250, 258))});
+            return Cat({Word(Pick(1, 3)), L".", Word(Pick(250, 258))});
         default:
             return Word(Pick(1, 12));
         }
     }
 
-    std::u16string Word(int length) {
-        static const char16_t units[] = u"abcXYZ019_- ~$\u00e4\u00df\u4e2d:";
-        std::u16string w;
+    std::wstring Word(int length) {
+        static const wchar_t units[] = L"abcXYZ019_- ~$\u00e4\u00df\u4e2d:";
+        std::wstring w;
         for (int i = 0; i < length; ++i)
             w += units[Pick(0, static_cast<int>(std::size(units)) - 2)];
         return w;
@@ -178,7 +178,7 @@ TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
     int differences = 0;
     int overlong = 0, withDrive = 0, withDir = 0, withExt = 0, partial = 0;
     for (int i = 0; i < kPaths; ++i) {
-        const std::u16string path = gen.Next();
+        const std::wstring path = gen.Next();
         const Mask mask = gen.NextMask();
         const Split expected = RuntimeSplit(path, mask);
         const Split actual = CoreSplit(path, mask);
@@ -206,15 +206,15 @@ TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
 
 // Inputs chosen by hand at the edges of each rule.
 TEST(PathSplitDifferential, HandPickedEdgesSplitAsTheRuntimeDoes) {
-    const std::u16string longPart(255, u'n');
+    const std::wstring longPart(255, L'n');
     // clang-format off
-    const std::u16string cases[] = {
-        u"", u"C:", u"C:\\", u"C:file", u"\\", u"/", u".", u"..", u"...", u".ext", u"name.",
-        u"a.b.c", u"dir.d\\name", u"\\\\srv\\share", u"\\\\srv\\share\\",
-        u"\\\\srv\\share\\d\\f.txt", u"C:/a/b/f.txt", u"C:\\a\\\\b\\\\",
-        u"  C:\\Work\\Project.ACD  ", u"a:b:c", Cat({u"\\", longPart.substr(0, 254), u"\\f"}),
-        Cat({u"\\", longPart, u"\\f"}), longPart, Cat({longPart, u"n"}),
-        Cat({u"f.", longPart.substr(0, 254)}), Cat({u"f.", longPart})
+    const std::wstring cases[] = {
+        L"", L"C:", L"C:\\", L"C:file", L"\\", L"/", L".", L"..", L"...", L".ext", L"name.",
+        L"a.b.c", L"dir.d\\name", L"\\\\srv\\share", L"\\\\srv\\share\\",
+        L"\\\\srv\\share\\d\\f.txt", L"C:/a/b/f.txt", L"C:\\a\\\\b\\\\",
+        L"  C:\\Work\\Project.ACD  ", L"a:b:c", Cat({L"\\", longPart.substr(0, 254), L"\\f"}),
+        Cat({L"\\", longPart, L"\\f"}), longPart, Cat({longPart, L"n"}),
+        Cat({L"f.", longPart.substr(0, 254)}), Cat({L"f.", longPart})
     };
     // clang-format on
     for (const auto& path : cases) {

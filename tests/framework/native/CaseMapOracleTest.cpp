@@ -25,9 +25,9 @@ TEST(CaseMapOracle, EveryBmpCodePointMatchesUnicodeData) {
     std::ifstream in(kUnicodeData);
     if (!in)
         GTEST_SKIP() << kUnicodeData << " missing (Debian package unicode-data)";
-    std::vector<char16_t> lower(0x10000), upper(0x10000);
+    std::vector<WCHAR> lower(0x10000), upper(0x10000);
     for (unsigned c = 0; c <= 0xFFFF; ++c)
-        lower[c] = upper[c] = static_cast<char16_t>(c);
+        lower[c] = upper[c] = static_cast<WCHAR>(c);
     std::string line;
     while (std::getline(in, line)) {
         const std::vector<std::string> f = Fields(line);
@@ -37,13 +37,13 @@ TEST(CaseMapOracle, EveryBmpCodePointMatchesUnicodeData) {
         if (cp > 0xFFFF)
             continue;
         if (!f[12].empty() && std::stoul(f[12], nullptr, 16) <= 0xFFFF)
-            upper[cp] = static_cast<char16_t>(std::stoul(f[12], nullptr, 16));
+            upper[cp] = static_cast<WCHAR>(std::stoul(f[12], nullptr, 16));
         if (!f[13].empty() && std::stoul(f[13], nullptr, 16) <= 0xFFFF)
-            lower[cp] = static_cast<char16_t>(std::stoul(f[13], nullptr, 16));
+            lower[cp] = static_cast<WCHAR>(std::stoul(f[13], nullptr, 16));
     }
     int mismatches = 0;
     for (unsigned c = 0; c <= 0xFFFF; ++c) {
-        const char16_t ch = static_cast<char16_t>(c);
+        const WCHAR ch = static_cast<WCHAR>(c);
         if (vu::ToLower(ch) != lower[c] || vu::ToUpper(ch) != upper[c]) {
             if (++mismatches <= 10)
                 ADD_FAILURE() << std::hex << "U+" << c << ": lower " << int(vu::ToLower(ch))

@@ -74,8 +74,8 @@ public:
         ++initCalls;
         sawOwnHandle = m_hWnd != nullptr && CWnd::FromHandlePermanent(m_hWnd) == this;
         list.SubclassDlgItem(kListId, this);
-        list.AddString(reinterpret_cast<const char16_t*>(static_cast<UINT_PTR>(11)));
-        list.AddString(reinterpret_cast<const char16_t*>(static_cast<UINT_PTR>(12)));
+        list.AddString(reinterpret_cast<const wchar_t*>(static_cast<UINT_PTR>(11)));
+        list.AddString(reinterpret_cast<const wchar_t*>(static_cast<UINT_PTR>(12)));
         owner = ::GetWindow(m_hWnd, GW_OWNER);
         PostMessage(closeMessage, closeWParam, 0);
         return TRUE;

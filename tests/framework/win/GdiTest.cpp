@@ -35,7 +35,7 @@ TEST(GdiTest, SelectionReturnsThePreviousObjectAndTemporariesAreStable) {
     CDC memory;
     ASSERT_TRUE(memory.CreateCompatibleDC(nullptr));
     CFont font;
-    ASSERT_TRUE(font.CreatePointFont(90, u"Arial"));
+    ASSERT_TRUE(font.CreatePointFont(90, L"Arial"));
     LOGFONTW lf{};
     ASSERT_GT(font.GetLogFont(&lf), 0);
     EXPECT_LT(lf.lfHeight, 0);
@@ -62,7 +62,7 @@ TEST(GdiTest, FillAndTextMeasureOnARealBitmap) {
     memory.FillSolidRect(2, 2, 3, 3, RGB(255, 0, 0));
     EXPECT_EQ(memory.GetPixel(0, 0), RGB(0, 0, 255));
     EXPECT_EQ(memory.GetPixel(3, 3), RGB(255, 0, 0));
-    EXPECT_GT(memory.GetTextExtent(u"Rung", 4).cx, memory.GetTextExtent(u"R", 1).cx);
+    EXPECT_GT(memory.GetTextExtent(L"Rung", 4).cx, memory.GetTextExtent(L"R", 1).cx);
     EXPECT_EQ(memory.GetTextExtent(nullptr, 3).cx, 0);
     memory.SelectObject(old);
 }
@@ -86,17 +86,17 @@ TEST(GdiTest, ImageListFromBitmap) {
 TEST(GdiTest, MenuAndToolTip) {
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, 40, u"&Expand");
+    menu.AppendMenu(MF_STRING, 40, L"&Expand");
     menu.AppendMenu(MF_SEPARATOR);
     EXPECT_EQ(menu.GetMenuItemCount(), 2);
     CString text;
     EXPECT_EQ(menu.GetMenuString(40, text, MF_BYCOMMAND), 7);
-    EXPECT_EQ(std::u16string(text.GetString()), u"&Expand");
+    EXPECT_EQ(std::wstring(text.GetString()), L"&Expand");
 
     vutest::PlainWindow window(vutest::Stage(), WS_VISIBLE);
     CToolTipCtrl tip;
     ASSERT_TRUE(tip.Create(CWnd::FromHandle(window.hwnd)));
-    EXPECT_TRUE(tip.AddTool(CWnd::FromHandle(window.hwnd), u"tip text"));
+    EXPECT_TRUE(tip.AddTool(CWnd::FromHandle(window.hwnd), L"tip text"));
     EXPECT_EQ(tip.GetToolCount(), 1);
     TOOLINFOW info{};
     EXPECT_TRUE(tip.GetToolInfo(&info, CWnd::FromHandle(window.hwnd)));

@@ -79,8 +79,8 @@ HWND MakeOwnerDrawList(HWND parent, DWORD extraStyle = 0) {
 }
 
 // Owner-drawn items carry their data in place of a string.
-const char16_t* Data(UINT_PTR value) {
-    return reinterpret_cast<const char16_t*>(value);
+const wchar_t* Data(UINT_PTR value) {
+    return reinterpret_cast<const wchar_t*>(value);
 }
 
 bool CreateList(CListBox& box, HWND parent, DWORD style, const CRect& rect = CRect(0, 0, 200, 150),
@@ -169,7 +169,7 @@ TEST(ReflectionTest, ControlNotificationsGoToTheChildFirst) {
     vutest::PlainWindow parent(vutest::Stage(), WS_VISIBLE);
     ClaimingListBox box;
     ASSERT_TRUE(CreateList(box, parent.hwnd, LBS_NOTIFY | LBS_HASSTRINGS));
-    box.AddString(u"alpha");
+    box.AddString(L"alpha");
 
     // Claimed: the parent never sees the double click.
     SendMessageW(parent.hwnd, WM_COMMAND, MAKEWPARAM(kListId, LBN_DBLCLK),
@@ -204,8 +204,8 @@ TEST(ReflectionTest, RealClickSelectionStillReachesThePlainParent) {
     vutest::PlainWindow parent(vutest::Stage(), WS_VISIBLE);
     ClaimingListBox box;
     ASSERT_TRUE(CreateList(box, parent.hwnd, LBS_NOTIFY | LBS_HASSTRINGS));
-    box.AddString(u"alpha");
-    box.AddString(u"beta");
+    box.AddString(L"alpha");
+    box.AddString(L"beta");
     CRect row;
     box.GetItemRect(1, &row);
     SendMessageW(box.m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(row.left + 5, row.top + 2));

@@ -169,7 +169,7 @@ TEST(WndSubclassTest, DestructionDetachesAndCallsPostNcDestroy) {
 TEST(WndCreateTest, CreateExSeesTheWindowFromItsFirstMessages) {
     vutest::PlainWindow parent;
     ProbeWnd wnd;
-    ASSERT_TRUE(wnd.CreateEx(0, u"STATIC", u"caption", WS_CHILD, CRect(0, 0, 50, 20),
+    ASSERT_TRUE(wnd.CreateEx(0, L"STATIC", L"caption", WS_CHILD, CRect(0, 0, 50, 20),
                              CWnd::FromHandle(parent.hwnd), 77));
     EXPECT_EQ(CWnd::FromHandlePermanent(wnd.m_hWnd), &wnd);
     EXPECT_EQ(wnd.GetDlgCtrlID(), 77);
@@ -178,7 +178,7 @@ TEST(WndCreateTest, CreateExSeesTheWindowFromItsFirstMessages) {
     EXPECT_EQ(wnd.Count(WM_CREATE), 1);
     CString text;
     wnd.GetWindowText(text);
-    EXPECT_EQ(std::u16string(text.GetString()), u"caption");
+    EXPECT_EQ(std::wstring(text.GetString()), L"caption");
     EXPECT_EQ(AfxGetThreadState()->m_pWndInit, nullptr);
 
     HWND hwnd = wnd.m_hWnd;
@@ -190,7 +190,7 @@ TEST(WndCreateTest, CreateExSeesTheWindowFromItsFirstMessages) {
 TEST(WndCreateTest, FailedCreationLeavesTheObjectFree) {
     ProbeWnd wnd;
     EXPECT_FALSE(
-        wnd.CreateEx(0, u"NoSuchWindowClass", nullptr, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
+        wnd.CreateEx(0, L"NoSuchWindowClass", nullptr, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
     EXPECT_EQ(wnd.m_hWnd, nullptr);
     // The hook is gone: a later plain window is not taken by anyone.
     vutest::PlainWindow window;
@@ -205,7 +205,7 @@ TEST(WndCreateTest, ObjectThatDiesDestroysItsWindowCreatedOrAttached) {
         CListBox list;
         ASSERT_TRUE(list.Create(WS_VISIBLE | LBS_NOTIFY, CRect(0, 0, 100, 80), parent.hwnd, 5));
         created = list.m_hWnd;
-        list.AddString(u"one");
+        list.AddString(L"one");
         EXPECT_EQ(list.GetCount(), 1);
         CWnd wnd;
         ASSERT_TRUE(wnd.Attach(attachedHwnd));

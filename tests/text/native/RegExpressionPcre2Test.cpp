@@ -22,66 +22,66 @@ namespace {
 
 using RegExpressionTestSupport::Show;
 
-void AppendCodeUnit(std::u16string& out, char16_t c) {
+void AppendCodeUnit(vu::String& out, WCHAR c) {
     char buf[16];
     std::snprintf(buf, sizeof buf, "\\x{%x}", unsigned(c));
     for (const char* p = buf; *p; ++p)
-        out += char16_t(*p);
+        out += WCHAR(*p);
 }
 
 // Translates a pattern that our engine accepted.
-std::u16string ToPcre2(const std::u16string& p) {
-    std::u16string out;
+vu::String ToPcre2(const vu::String& p) {
+    vu::String out;
     size_t i = 0;
     while (i < p.size()) {
-        const char16_t c = p[i++];
+        const WCHAR c = p[i++];
         switch (c) {
-        case u'^':
-        case u'$':
+        case VU_T('^'):
+        case VU_T('$'):
             // PCRE2 does not quantify a bare assertion (our `^?` is valid).
-            out += u"(?:";
+            out += VU_T("(?:");
             out += c;
-            out += u')';
+            out += VU_T(')');
             break;
-        case u'.':
-        case u'(':
-        case u')':
-        case u'|':
-        case u'*':
-        case u'+':
-        case u'?':
+        case VU_T('.'):
+        case VU_T('('):
+        case VU_T(')'):
+        case VU_T('|'):
+        case VU_T('*'):
+        case VU_T('+'):
+        case VU_T('?'):
             out += c;
             break;
-        case u'\\':
+        case VU_T('\\'):
             AppendCodeUnit(out, p[i++]);
             break;
-        case u'[': {
-            out += u'[';
-            if (p[i] == u'^') {
-                out += u'^';
+        case VU_T('['): {
+            out += VU_T('[');
+            if (p[i] == VU_T('^')) {
+                out += VU_T('^');
                 ++i;
             }
-            std::vector<char16_t> members;
-            if (p[i] == u']' || p[i] == u'-')
+            std::vector<WCHAR> members;
+            if (p[i] == VU_T(']') || p[i] == VU_T('-'))
                 members.push_back(p[i++]);
-            while (i < p.size() && p[i] != u']') {
-                if (p[i] != u'-') {
+            while (i < p.size() && p[i] != VU_T(']')) {
+                if (p[i] != VU_T('-')) {
                     members.push_back(p[i++]);
                     continue;
                 }
                 ++i;
-                if (i >= p.size() || p[i] == u']') {
-                    members.push_back(u'-');
+                if (i >= p.size() || p[i] == VU_T(']')) {
+                    members.push_back(VU_T('-'));
                     continue;
                 }
                 for (unsigned m = unsigned(p[i - 2]) + 1; m <= p[i]; ++m)
-                    members.push_back(char16_t(m));
+                    members.push_back(WCHAR(m));
                 ++i;
             }
             ++i; // ']'
-            for (char16_t m : members)
+            for (WCHAR m : members)
                 AppendCodeUnit(out, m);
-            out += u']';
+            out += VU_T(']');
             break;
         }
         default:
@@ -95,7 +95,7 @@ std::u16string ToPcre2(const std::u16string& p) {
 struct Pcre2Code {
     pcre2_code_16* code = nullptr;
     pcre2_match_data_16* data = nullptr;
-    explicit Pcre2Code(const std::u16string& pattern) {
+    explicit Pcre2Code(const vu::String& pattern) {
         int error = 0;
         PCRE2_SIZE offset = 0;
         code = pcre2_compile_16(reinterpret_cast<PCRE2_SPTR16>(pattern.c_str()), pattern.size(),
@@ -108,7 +108,7 @@ struct Pcre2Code {
         pcre2_code_free_16(code);
     }
     // Group n as (start, end), (-1, -1) when unset; rc <= 0: no match.
-    int Match(const std::u16string& text, std::pair<int, int> groups[10]) {
+    int Match(const vu::String& text, std::pair<int, int> groups[10]) {
         const int rc = pcre2_match_16(code, reinterpret_cast<PCRE2_SPTR16>(text.c_str()),
                                       text.size(), 0, 0, data, nullptr);
         const PCRE2_SIZE* ov = pcre2_get_ovector_pointer_16(data);
@@ -122,18 +122,20 @@ struct Pcre2Code {
 };
 
 // What GetReplaceString should give for `templ` with these groups.
-std::u16string Expand(const std::u16string& text, const std::pair<int, int> groups[10],
-                      std::u16string_view templ) {
-    std::u16string out;
+vu::String Expand(const vu::String& text, const std::pair<int, int> groups[10],
+                  vu::StringView templ) {
+    vu::String out;
     for (size_t i = 0; i < templ.size();) {
-        const char16_t c = templ[i++];
+        const WCHAR c = templ[i++];
         int n = -1;
-        if (c == u'&')
+        if (c == VU_T('&'))
             n = 0;
-        else if (c == u'\\' && i < templ.size() && templ[i] >= u'0' && templ[i] <= u'9')
-            n = templ[i++] - u'0';
+        else if (c == VU_T('\\') && i < templ.size() && templ[i] >= VU_T('0') &&
+                 templ[i] <= VU_T('9'))
+            n = templ[i++] - VU_T('0');
         if (n < 0) {
-            if (c == u'\\' && i < templ.size() && (templ[i] == u'\\' || templ[i] == u'&'))
+            if (c == VU_T('\\') && i < templ.size() &&
+                (templ[i] == VU_T('\\') || templ[i] == VU_T('&')))
                 out += templ[i++];
             else
                 out += c;
@@ -145,23 +147,23 @@ std::u16string Expand(const std::u16string& text, const std::pair<int, int> grou
 }
 
 TEST(RegExpressionPcre2, TranslationOfSetsAndEscapes) {
-    EXPECT_EQ(Show(ToPcre2(u"[]a-c]")), "[\\x{5d}\\x{61}\\x{62}\\x{63}]");
-    EXPECT_EQ(Show(ToPcre2(u"[^-\\]")), "[^\\x{2d}\\x{5c}]");
-    EXPECT_EQ(Show(ToPcre2(u"\\d{2}")), "\\x{64}\\x{7b}\\x{32}\\x{7d}");
-    EXPECT_EQ(Show(ToPcre2(u"(a|b)*$")), "(\\x{61}|\\x{62})*(?:$)");
-    EXPECT_EQ(Show(ToPcre2(u"^?a")), "(?:^)?\\x{61}");
+    EXPECT_EQ(Show(ToPcre2(VU_T("[]a-c]"))), "[\\x{5d}\\x{61}\\x{62}\\x{63}]");
+    EXPECT_EQ(Show(ToPcre2(VU_T("[^-\\]"))), "[^\\x{2d}\\x{5c}]");
+    EXPECT_EQ(Show(ToPcre2(VU_T("\\d{2}"))), "\\x{64}\\x{7b}\\x{32}\\x{7d}");
+    EXPECT_EQ(Show(ToPcre2(VU_T("(a|b)*$"))), "(\\x{61}|\\x{62})*(?:$)");
+    EXPECT_EQ(Show(ToPcre2(VU_T("^?a"))), "(?:^)?\\x{61}");
 }
 
 TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
     RegExpressionPatternGenerator gen(0x5eed2024);
-    const std::u16string templ = u"<&|\\1|\\2\\\\\\&>";
+    const vu::String templ = VU_T("<&|\\1|\\2\\\\\\&>");
     int compared = 0, matched = 0, withGroups = 0, failures = 0;
     for (int i = 0; i < 8000 && failures < 10; ++i) {
-        const std::u16string pattern = gen.Pattern();
+        const vu::String pattern = gen.Pattern();
         VU_CRegExpression re;
         if (!re.RegComp(pattern.c_str()))
             continue;
-        const std::u16string translated = ToPcre2(pattern);
+        const vu::String translated = ToPcre2(pattern);
         Pcre2Code oracle(translated);
         if (!oracle.code) {
             ++failures; // the translation must cover every accepted pattern
@@ -169,7 +171,7 @@ TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
             continue;
         }
         for (int t = 0; t < 6; ++t) {
-            const std::u16string text = gen.Text(14);
+            const vu::String text = gen.Text(14);
             std::pair<int, int> expected[10];
             const int rc = oracle.Match(text, expected);
             const int found = re.RegFind(text.c_str());
@@ -187,8 +189,8 @@ TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
                            std::to_string(expected[n].first) + "," +
                            std::to_string(expected[n].second) + ")";
             if (rc > 0 && diff.empty()) {
-                std::unique_ptr<char16_t[]> replaced(re.GetReplaceString(templ.c_str()));
-                const std::u16string want = Expand(text, expected, templ);
+                std::unique_ptr<WCHAR[]> replaced(re.GetReplaceString(templ.c_str()));
+                const vu::String want = Expand(text, expected, templ);
                 if (!replaced || replaced.get() != want)
                     diff = "replacement " + (replaced ? Show(replaced.get()) : "null") +
                            ", expected " + Show(want);
@@ -210,16 +212,16 @@ TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
 // Longer subjects: the search hints and the scans must not change a result.
 TEST(RegExpressionPcre2, AgreesOnLongerTexts) {
     RegExpressionPatternGenerator gen(77);
-    const char16_t* patterns[] = {u"abc",   u"x*abc",      u"[ab]+c", u"(ab|ba)+d",
-                                  u"a|b|c", u"[^ab]+",     u"c.*d$",  u"^a*b",
-                                  u"(a)+",  u"bcd|abd|dd", u"a-]\\.", u"[]a]+d"};
-    for (const char16_t* pattern : patterns) {
+    const WCHAR* patterns[] = {VU_T("abc"),   VU_T("x*abc"),      VU_T("[ab]+c"), VU_T("(ab|ba)+d"),
+                               VU_T("a|b|c"), VU_T("[^ab]+"),     VU_T("c.*d$"),  VU_T("^a*b"),
+                               VU_T("(a)+"),  VU_T("bcd|abd|dd"), VU_T("a-]\\."), VU_T("[]a]+d")};
+    for (const WCHAR* pattern : patterns) {
         VU_CRegExpression re;
         ASSERT_NE(re.RegComp(pattern), nullptr) << Show(pattern);
         Pcre2Code oracle(ToPcre2(pattern));
         ASSERT_NE(oracle.code, nullptr);
         for (int t = 0; t < 200; ++t) {
-            const std::u16string text = gen.Text(300);
+            const vu::String text = gen.Text(300);
             std::pair<int, int> expected[10];
             const int rc = oracle.Match(text, expected);
             SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));

@@ -30,9 +30,9 @@ public:
     }
     bool Ok() const { return m_base != nullptr; }
     // Places `text` and its NUL so that the NUL is the page's last unit.
-    const char16_t* Place(const std::u16string& text) {
-        char16_t* end = reinterpret_cast<char16_t*>(m_base + m_page) - 1;
-        char16_t* s = end - text.size();
+    const WCHAR* Place(const vu::String& text) {
+        WCHAR* end = reinterpret_cast<WCHAR*>(m_base + m_page) - 1;
+        WCHAR* s = end - text.size();
         std::copy(text.begin(), text.end(), s);
         *end = 0;
         return s;
@@ -48,28 +48,30 @@ TEST(RegExpressionScanPage, ScansStopAtTheNulBeforeAGuardPage) {
     ASSERT_TRUE(page.Ok());
     for (size_t length = 0; length < 200; ++length) {
         SCOPED_TRACE(length);
-        std::u16string text(length, u'a');
+        vu::String text(length, VU_T('a'));
         if (length)
-            text.back() = u'x'; // a literal prefix at the very end
-        const char16_t* s = page.Place(text);
+            text.back() = VU_T('x'); // a literal prefix at the very end
+        const WCHAR* s = page.Place(text);
         EXPECT_EQ(VU_CRegExpScan::Length(s), length);
-        EXPECT_EQ(VU_CRegExpScan::FindUnit(s, u'q'), nullptr);
-        EXPECT_EQ(VU_CRegExpScan::FindLiteral(s, u"xyzzy", 5), nullptr);
-        EXPECT_EQ(VU_CRegExpScan::FindLiteral(s, u"ax", 2), length >= 2 ? s + length - 2 : nullptr);
-        const char16_t lo[] = {u'q', u'x'}, hi[] = {u'r', u'x'};
+        EXPECT_EQ(VU_CRegExpScan::FindUnit(s, VU_T('q')), nullptr);
+        EXPECT_EQ(VU_CRegExpScan::FindLiteral(s, VU_T("xyzzy"), 5), nullptr);
+        EXPECT_EQ(VU_CRegExpScan::FindLiteral(s, VU_T("ax"), 2),
+                  length >= 2 ? s + length - 2 : nullptr);
+        const WCHAR lo[] = {VU_T('q'), VU_T('x')}, hi[] = {VU_T('r'), VU_T('x')};
         EXPECT_EQ(VU_CRegExpScan::FindInRanges(s, lo, hi, 2), length ? s + length - 1 : nullptr);
-        EXPECT_EQ(VU_CRegExpScan::RunOf(s, u'a'), length ? length - 1 : 0);
+        EXPECT_EQ(VU_CRegExpScan::RunOf(s, VU_T('a')), length ? length - 1 : 0);
     }
 }
 
 TEST(RegExpressionScanPage, SearchesStopAtTheNulBeforeAGuardPage) {
     GuardedPage page;
     ASSERT_TRUE(page.Ok());
-    const char16_t* patterns[] = {u"xyzzy", u"a*xyzzy", u"[ax]+y", u"q|r", u"x$", u".*x"};
+    const WCHAR* patterns[] = {VU_T("xyzzy"), VU_T("a*xyzzy"), VU_T("[ax]+y"),
+                               VU_T("q|r"),   VU_T("x$"),      VU_T(".*x")};
     const int expected[] = {-1, -1, -1, -1, 0, 0};
     for (size_t length = 1; length < 150; ++length) {
-        const std::u16string text = std::u16string(length - 1, u'a') + u"x";
-        const char16_t* s = page.Place(text);
+        const vu::String text = vu::String(length - 1, VU_T('a')) + VU_T("x");
+        const WCHAR* s = page.Place(text);
         for (size_t i = 0; i < std::size(patterns); ++i) {
             SCOPED_TRACE(std::to_string(length) + " units, pattern " + std::to_string(i));
             VU_CRegExpression re;

@@ -16,27 +16,29 @@
 namespace {
 
 struct Element {
-    std::u16string name;
-    std::u16string text; // leaves only
+    vu::String name;
+    vu::String text; // leaves only
     std::vector<Element> children;
 };
 
 // Every escapable character, tab and line feed, and text beyond ASCII
 // (Latin, CJK, a surrogate pair). Carriage returns are left out: a parser
 // normalises them to line feeds.
-std::u16string RandomText(std::mt19937& rng) {
-    static const std::u16string pieces[] = {
-        u"a",  u"Zz9", u" ",   u"&",     u"<",      u">",      u"'",      u"\"",
-        u"\t", u"\n",  u"]]>", u"&amp;", u"\u00fc", u"\u20ac", u"\u4e2d", u"\U0001F600"};
-    std::u16string text;
+vu::String RandomText(std::mt19937& rng) {
+    static const vu::String pieces[] = {
+        VU_T("a"),      VU_T("Zz9"),    VU_T(" "),      VU_T("&"),
+        VU_T("<"),      VU_T(">"),      VU_T("'"),      VU_T("\""),
+        VU_T("\t"),     VU_T("\n"),     VU_T("]]>"),    VU_T("&amp;"),
+        VU_T("\u00fc"), VU_T("\u20ac"), VU_T("\u4e2d"), VU_T("\U0001F600")};
+    vu::String text;
     for (int n = std::uniform_int_distribution<int>(0, 12)(rng); n > 0; --n)
         text += pieces[std::uniform_int_distribution<size_t>(0, std::size(pieces) - 1)(rng)];
     return text;
 }
 
-std::u16string RandomName(std::mt19937& rng) {
-    static const char16_t letters[] = u"ABCXYZabcxyz_";
-    std::u16string name;
+vu::String RandomName(std::mt19937& rng) {
+    static const WCHAR letters[] = VU_T("ABCXYZabcxyz_");
+    vu::String name;
     const int length = rng() % 20 == 0 ? 300 : 1 + static_cast<int>(rng() % 12);
     for (int i = 0; i < length; ++i)
         name += letters[rng() % (std::size(letters) - 1)];

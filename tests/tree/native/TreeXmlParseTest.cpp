@@ -15,30 +15,30 @@ namespace {
 
 // Each word with its UTF-8 form, to compare with what libxml2 reads back.
 struct Word {
-    const char16_t* utf16;
+    const WCHAR* utf16;
     const char8_t* utf8;
 };
-const Word kWords[] = {{u"Motor", u8"Motor"},
-                       {u"a<b", u8"a<b"},
-                       {u"R&D", u8"R&D"},
-                       {u"\"quoted\"", u8"\"quoted\""},
-                       {u"it's", u8"it's"},
-                       {u"x>y", u8"x>y"},
-                       {u"Stra\u00dfe", u8"Stra\u00dfe"},
-                       {u"\u65e5\u672c", u8"\u65e5\u672c"},
-                       {u"tab\tcolumn", u8"tab\tcolumn"},
-                       {u"", u8""},
-                       {u"\U0001F600", u8"\U0001F600"}};
+const Word kWords[] = {{VU_T("Motor"), u8"Motor"},
+                       {VU_T("a<b"), u8"a<b"},
+                       {VU_T("R&D"), u8"R&D"},
+                       {VU_T("\"quoted\""), u8"\"quoted\""},
+                       {VU_T("it's"), u8"it's"},
+                       {VU_T("x>y"), u8"x>y"},
+                       {VU_T("Stra\u00dfe"), u8"Stra\u00dfe"},
+                       {VU_T("\u65e5\u672c"), u8"\u65e5\u672c"},
+                       {VU_T("tab\tcolumn"), u8"tab\tcolumn"},
+                       {VU_T(""), u8""},
+                       {VU_T("\U0001F600"), u8"\U0001F600"}};
 
 std::string Utf8Of(const CTreeNode* node) {
     return node ? reinterpret_cast<const char*>(kWords[node->GetItemData()].utf8) : "";
 }
 
 // What the list box returns: the roots' rows inside "HbxTreeList".
-std::u16string Dump(CTreeNodeArray& roots, long selectedRow) {
+vu::String Dump(CTreeNodeArray& roots, long selectedRow) {
     CTreeNode::ResetXmlRowCounter(selectedRow);
     VU_CXmlWriter writer;
-    writer.WriteStartElement(AF_GString(u"HbxTreeList"));
+    writer.WriteStartElement(AF_GString(VU_T("HbxTreeList")));
     writer.CloseOpenedElement();
     writer.WriteRaw(roots.XmlGetString());
     writer.WriteEndElement();
@@ -93,7 +93,7 @@ TEST(TreeXmlParse, RandomTreesDumpWellFormedRowsInShownOrder) {
             CollectShown(r, shown);
         const long selected = static_cast<long>(rng() % (shown.size() + 1)) - 1;
 
-        const std::u16string dump = Dump(roots, selected);
+        const vu::String dump = Dump(roots, selected);
         xmlDoc* doc = xmlReadMemory(reinterpret_cast<const char*>(dump.data()),
                                     static_cast<int>(dump.size() * 2), "dump.xml", "UTF-16LE",
                                     XML_PARSE_NONET);

@@ -19,33 +19,33 @@ protected:
 };
 
 TEST_F(SummaryTest, LinesAndTheirTexts) {
-    EXPECT_EQ(0, list.AddItem(CString(u"Controller"), true));
-    EXPECT_EQ(1, list.AddItem(CString(u"Name: Line_3"), false));
-    EXPECT_EQ(CString(u"Name: Line_3"), list.GetDisplayText(1));
+    EXPECT_EQ(0, list.AddItem(CString(L"Controller"), true));
+    EXPECT_EQ(1, list.AddItem(CString(L"Name: Line_3"), false));
+    EXPECT_EQ(CString(L"Name: Line_3"), list.GetDisplayText(1));
     EXPECT_TRUE(list.GetDisplayText(-1).IsEmpty());
     EXPECT_TRUE(list.GetDisplayText(2).IsEmpty());
     EXPECT_TRUE(list.GetCurSelDisplayText().IsEmpty()) << "nothing selected";
-    list.SetDisplayText(1, CString(u"Name: Line_4"));
-    list.SetDisplayText(5, CString(u"ignored"));
+    list.SetDisplayText(1, CString(L"Name: Line_4"));
+    list.SetDisplayText(5, CString(L"ignored"));
     list.SetCurSel(1);
-    EXPECT_EQ(CString(u"Name: Line_4"), list.GetCurSelDisplayText());
+    EXPECT_EQ(CString(L"Name: Line_4"), list.GetCurSelDisplayText());
     EXPECT_EQ(2, list.GetLineCount());
 }
 
 TEST_F(SummaryTest, ScrollbarOnlyPastOnePage) {
     EXPECT_FALSE(list.IsVerticalScrollbarVisible());
     for (int i = 0; i < 10; ++i)
-        list.AddItem(CString(u"line"), false);
+        list.AddItem(CString(L"line"), false);
     EXPECT_FALSE(list.IsVerticalScrollbarVisible()) << "exactly one page";
-    list.AddItem(CString(u"line"), false);
+    list.AddItem(CString(L"line"), false);
     EXPECT_TRUE(list.IsVerticalScrollbarVisible());
 }
 
 TEST_F(SummaryTest, HeaderAndLineWithTheSameTextStartTwelvePixelsApart) {
     SendMessageW(list.m_hWnd, WM_SETFONT,
                  reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), FALSE);
-    list.AddItem(CString(u"HHH"), true);
-    list.AddItem(CString(u"HHH"), false);
+    list.AddItem(CString(L"HHH"), true);
+    list.AddItem(CString(L"HHH"), false);
     ClientPicture picture(list.m_hWnd);
     const COLORREF background = picture.At(picture.Width() - 1, 1);
     const int header = picture.InkSpan(0, kRow, 0, background).first;
@@ -55,8 +55,8 @@ TEST_F(SummaryTest, HeaderAndLineWithTheSameTextStartTwelvePixelsApart) {
 }
 
 TEST_F(SummaryTest, SelectedLinesLookTheSame) {
-    list.AddItem(CString(u"Tags: 120"), false);
-    list.AddItem(CString(u"Tags: 120"), false);
+    list.AddItem(CString(L"Tags: 120"), false);
+    list.AddItem(CString(L"Tags: 120"), false);
     list.SetCurSel(1);
     ClientPicture picture(list.m_hWnd);
     for (int y = 0; y < kRow; ++y)

@@ -18,7 +18,7 @@ constexpr int kControlId = 1234;
 constexpr DWORD kTreeStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
 
-inline CString S(const char16_t* text) {
+inline CString S(const wchar_t* text) {
     return CString(text);
 }
 
@@ -57,7 +57,7 @@ protected:
     }
 
     HWND Hwnd() const { return list->m_hWnd; }
-    std::vector<std::u16string> Rows() const { return RowTexts(list->m_hWnd); }
+    std::vector<std::wstring> Rows() const { return RowTexts(list->m_hWnd); }
     int Selected() const { return static_cast<int>(SendMessageW(Hwnd(), LB_GETCURSEL, 0, 0)); }
     void Select(int row) { SendMessageW(Hwnd(), LB_SETCURSEL, row, 0); }
 
@@ -72,20 +72,20 @@ protected:
     // All collapsed: only A, B, C show.
     void BuildSample() {
         int a = 0, a1 = 0, b = 0;
-        list->AddItem(S(u"A"), 0, 1, 100, -1, &a);
-        list->AddItem(S(u"A1"), 0, 1, 110, a, &a1);
-        list->AddItem(S(u"A1a"), 6, 6, 111, a1);
-        list->AddItem(S(u"A1b"), 6, 6, 112, a1);
-        list->AddItem(S(u"A2"), 6, 6, 120, a);
-        list->AddItem(S(u"B"), 0, 1, 200, -1, &b);
-        list->AddItem(S(u"B1"), 6, 6, 210, b);
-        list->AddItem(S(u"C"), 6, 6, 300, -1);
+        list->AddItem(S(L"A"), 0, 1, 100, -1, &a);
+        list->AddItem(S(L"A1"), 0, 1, 110, a, &a1);
+        list->AddItem(S(L"A1a"), 6, 6, 111, a1);
+        list->AddItem(S(L"A1b"), 6, 6, 112, a1);
+        list->AddItem(S(L"A2"), 6, 6, 120, a);
+        list->AddItem(S(L"B"), 0, 1, 200, -1, &b);
+        list->AddItem(S(L"B1"), 6, 6, 210, b);
+        list->AddItem(S(L"C"), 6, 6, 300, -1);
     }
 
     std::unique_ptr<ParentWindow> parent;
     std::unique_ptr<VU_CTreeListBox> list;
 };
 
-using RowList = std::vector<std::u16string>;
+using RowList = std::vector<std::wstring>;
 
 } // namespace treetest

@@ -12,7 +12,7 @@ const COLORREF kLineGrey = RGB(128, 128, 128);
 
 TEST_F(TreeListTest, DrawsBackgroundsLinesButtonsAndImages) {
     // Header and separator first: AddHeader finds its node by row + 1.
-    list->AddHeader(S(u"Header")); // row 0
+    list->AddHeader(S(L"Header")); // row 0
     list->AddSeparator();          // row 1
     BuildSample();
     const int a = 2; // rows: Header, sep, A, A1, A2, B, C
@@ -61,8 +61,8 @@ TEST_F(TreeListTest, DrawsBackgroundsLinesButtonsAndImages) {
 }
 
 TEST_F(TreeListTest, HeaderTextIsBold) {
-    list->AddItem(S(u"WWWW"), -1, -1, 0);
-    list->AddHeader(S(u"WWWW"));
+    list->AddItem(S(L"WWWW"), -1, -1, 0);
+    list->AddHeader(S(L"WWWW"));
     ClientPicture picture(Hwnd());
     const auto inkWidth = [&](int row, COLORREF background) {
         const auto [first, last] = picture.InkSpan(row * kRowHeight, (row + 1) * kRowHeight,
@@ -81,8 +81,8 @@ TEST(TreeListDrawing, DisabledRowsAreGrey) {
     ParentWindow parent;
     GreyList list;
     ASSERT_TRUE(CreateList(list, parent));
-    list.AddItem(S(u"Enabled row"), -1, -1, 0);
-    list.AddItem(S(u"Disabled row"), -1, -1, 0);
+    list.AddItem(S(L"Enabled row"), -1, -1, 0);
+    list.AddItem(S(L"Disabled row"), -1, -1, 0);
     ClientPicture picture(list.m_hWnd);
     const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
     const COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
@@ -101,8 +101,8 @@ TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
     CWordArray stops;
     stops.Add(20);
     list.SetTabStops(stops);
-    list.AddItem(S(u"x\tTYPE"), -1, -1, 0);
-    list.AddItem(S(u"WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW\tTYPE"), -1, -1, 0);
+    list.AddItem(S(L"x\tTYPE"), -1, -1, 0);
+    list.AddItem(S(L"WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW\tTYPE"), -1, -1, 0);
     EXPECT_TRUE(list.DoesTextFitWithinRect(0));
     EXPECT_FALSE(list.DoesTextFitWithinRect(1));
     // Both rows start their second column at the same x.
@@ -123,14 +123,14 @@ TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
 }
 
 // The tool tip text the control gives with the mouse at x in the row.
-std::u16string TipAt(VU_CTreeListBox& list, int x, int row) {
+std::wstring TipAt(VU_CTreeListBox& list, int x, int row) {
     POINT p{x, MidY(row)};
     ClientToScreen(list.m_hWnd, &p);
     SetCursorPos(p.x, p.y);
     NMTTDISPINFOW info{};
     LRESULT result = 0;
     EXPECT_TRUE(list.GetToolTipText(&info, &result));
-    return std::u16string(vu::U(info.lpszText));
+    return std::wstring(info.lpszText);
 }
 
 TEST(TreeListToolTip, TheTipIsTheTextOrColumnUnderTheMouseThatDoesNotFit) {
@@ -140,11 +140,11 @@ TEST(TreeListToolTip, TheTipIsTheTextOrColumnUnderTheMouseThatDoesNotFit) {
         VU_CTreeListBox list;
         ASSERT_TRUE(CreateList(list, parent, 150, 4));
         list.DisplayInColumns(false);
-        list.AddItem(S(u"Short"), -1, -1, 0);
-        list.AddItem(S(u"A much longer text than the control is wide, by far"), -1, -1, 0);
+        list.AddItem(S(L"Short"), -1, -1, 0);
+        list.AddItem(S(L"A much longer text than the control is wide, by far"), -1, -1, 0);
         UpdateWindow(parent.Handle());
-        EXPECT_EQ(u"", TipAt(list, 60, 0)) << "a text that fits gets no tip";
-        EXPECT_EQ(u"A much longer text than the control is wide, by far", TipAt(list, 60, 1));
+        EXPECT_EQ(L"", TipAt(list, 60, 0)) << "a text that fits gets no tip";
+        EXPECT_EQ(L"A much longer text than the control is wide, by far", TipAt(list, 60, 1));
     }
 
     SCOPED_TRACE("with columns, the column under the mouse");
@@ -153,9 +153,9 @@ TEST(TreeListToolTip, TheTipIsTheTextOrColumnUnderTheMouseThatDoesNotFit) {
     CWordArray stops;
     stops.Add(4);
     columns.SetTabStops(stops);
-    columns.AddItem(S(u"Tag\tA long description of the tag that cannot fit"), -1, -1, 0);
+    columns.AddItem(S(L"Tag\tA long description of the tag that cannot fit"), -1, -1, 0);
     UpdateWindow(parent.Handle());
-    EXPECT_EQ(u"A long description of the tag that cannot fit",
+    EXPECT_EQ(L"A long description of the tag that cannot fit",
               TipAt(columns, columns.GetTextLeft(0) + 100, 0));
 }
 

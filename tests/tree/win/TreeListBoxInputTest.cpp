@@ -11,11 +11,11 @@ void BuildPattern(VU_CTreeListBox& list, const char* pattern) {
     int i = 0;
     for (const char* p = pattern; *p; ++p, ++i) {
         if (*p == 'h')
-            list.AddHeader(S(u"Header"));
+            list.AddHeader(S(L"Header"));
         else if (*p == 's')
             list.AddSeparator();
         else
-            list.AddItem(CString(std::u16string(u"row ") + char16_t(u'0' + i)), 6, 6, 0);
+            list.AddItem(CString(std::wstring(L"row ") + wchar_t(L'0' + i)), 6, 6, 0);
     }
 }
 
@@ -70,7 +70,7 @@ TEST_F(TreeListTest, LeftKeyCollapsesOrGoesToTheParentWithANotification) {
     list->ExpandThisAndParent(list->FindNode(3)); // A, A1, A1a, A1b, A2, B, C
     Select(1);                                    // A1, expanded
     Key(Hwnd(), VK_LEFT);
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"C"}), Rows());
     EXPECT_EQ(1, Selected());
     EXPECT_EQ(0, parent->CountCommands(LBN_SELCHANGE));
 
@@ -86,9 +86,9 @@ TEST_F(TreeListTest, LeftKeyCollapsesOrGoesToTheParentWithANotification) {
     EXPECT_EQ(2, parent->CountCommands(LBN_SELCHANGE));
 
     Key(Hwnd(), VK_LEFT); // A: a root with children, expanded
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     Key(Hwnd(), VK_LEFT); // A collapsed root: nothing
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     Select(2); // C, a top-level leaf
     Key(Hwnd(), VK_LEFT);
     EXPECT_EQ(2, Selected());
@@ -98,16 +98,16 @@ TEST_F(TreeListTest, LeftKeyCollapsesOrGoesToTheParentWithANotification) {
 TEST_F(TreeListTest, RightPlusAndMinusKeys) {
     BuildSample();
     Key(Hwnd(), VK_RIGHT); // nothing selected: nothing expands
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     Select(0);
     Key(Hwnd(), VK_RIGHT);
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"C"}), Rows());
     EXPECT_EQ(0, Selected()) << "right expands and does nothing else";
     Key(Hwnd(), VK_SUBTRACT);
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     Select(1);
     Key(Hwnd(), VK_ADD);
-    EXPECT_EQ((RowList{u"A", u"B", u"B1", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"B1", L"C"}), Rows());
     Key(Hwnd(), VK_SPACE);
     EXPECT_EQ(1, Selected());
     list->ResetTreeContents();
@@ -136,9 +136,9 @@ TEST_F(TreeListTest, ClickOnTheButtonColumnTogglesUpToItsLastPixel) {
     }
     list->SetLeftGutterSize(0);
     Click(Hwnd(), 16, MidY(0)); // A's own button, expanded
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     Click(Hwnd(), 200, MidY(1)); // on B's text: selects only
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     EXPECT_EQ(1, Selected());
 }
 
@@ -146,22 +146,22 @@ TEST_F(TreeListTest, DoubleClickTogglesFromTheButtonRightwards) {
     BuildSample();
     list->SetLeftGutterSize(20);
     DoubleClick(Hwnd(), 150, MidY(0));
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"C"}), Rows());
     DoubleClick(Hwnd(), 20, MidY(0));
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     DoubleClick(Hwnd(), 19, MidY(0)); // in the gutter
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     DoubleClick(Hwnd(), 150, MidY(2)); // C, a leaf
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
 }
 
 // ---- List-box messages ------------------------------------------------------------
 
 TEST_F(TreeListTest, GetTextAndLengthReadTheNodes) {
     BuildSample();
-    char16_t buffer[16] = {};
+    wchar_t buffer[16] = {};
     EXPECT_EQ(1, SendMessageW(Hwnd(), LB_GETTEXT, 1, reinterpret_cast<LPARAM>(buffer)));
-    EXPECT_EQ(std::u16string(u"B"), buffer);
+    EXPECT_EQ(std::wstring(L"B"), buffer);
     EXPECT_EQ(1, SendMessageW(Hwnd(), LB_GETTEXTLEN, 2, 0));
     EXPECT_EQ(LB_ERR, SendMessageW(Hwnd(), LB_GETTEXTLEN, 3, 0));
     EXPECT_EQ(LB_ERR, SendMessageW(Hwnd(), LB_GETTEXT, 3, reinterpret_cast<LPARAM>(buffer)));
@@ -171,25 +171,25 @@ TEST_F(TreeListTest, GetTextAndLengthReadTheNodes) {
 TEST_F(TreeListTest, FindMessagesSearchTheShownRows) {
     BuildSample();
     list->Expand(0); // A, A1, A2, B, C
-    list->AddItem(S(u"Motor\tBOOL"), 6, 6, 0);
-    list->AddItem(S(u"Motors\tINT"), 6, 6, 0);
+    list->AddItem(S(L"Motor\tBOOL"), 6, 6, 0);
+    list->AddItem(S(L"Motors\tINT"), 6, 6, 0);
     struct Case {
         const char* name;
         UINT message;
-        const char16_t* text;
+        const wchar_t* text;
         LRESULT expected;
     } cases[] = {
-        {"prefix, case-blind", LB_FINDSTRING, u"a2", 2},
-        {"prefix matches a parent", LB_FINDSTRING, u"a", 0},
-        {"prefix across the tab", LB_FINDSTRING, u"motor\tb", 5},
-        {"hidden rows are not found", LB_FINDSTRING, u"a1b", LB_ERR},
-        {"exact name before the tab", LB_FINDSTRINGEXACT, u"MOTORS", 6},
-        {"exact name, shorter sibling first", LB_FINDSTRINGEXACT, u"motor", 5},
-        {"exact takes the first column only", LB_FINDSTRINGEXACT, u"Motor\tBOOL", LB_ERR},
-        {"exact parent", LB_FINDSTRINGEXACT, u"a1", 1},
-        {"select-string searches exactly", LB_SELECTSTRING, u"b", 3},
-        {"empty key", LB_FINDSTRING, u"", LB_ERR},
-        {"no match", LB_FINDSTRING, u"valve", LB_ERR},
+        {"prefix, case-blind", LB_FINDSTRING, L"a2", 2},
+        {"prefix matches a parent", LB_FINDSTRING, L"a", 0},
+        {"prefix across the tab", LB_FINDSTRING, L"motor\tb", 5},
+        {"hidden rows are not found", LB_FINDSTRING, L"a1b", LB_ERR},
+        {"exact name before the tab", LB_FINDSTRINGEXACT, L"MOTORS", 6},
+        {"exact name, shorter sibling first", LB_FINDSTRINGEXACT, L"motor", 5},
+        {"exact takes the first column only", LB_FINDSTRINGEXACT, L"Motor\tBOOL", LB_ERR},
+        {"exact parent", LB_FINDSTRINGEXACT, L"a1", 1},
+        {"select-string searches exactly", LB_SELECTSTRING, L"b", 3},
+        {"empty key", LB_FINDSTRING, L"", LB_ERR},
+        {"no match", LB_FINDSTRING, L"valve", LB_ERR},
     };
     Select(4);
     for (const Case& c : cases) {
@@ -203,18 +203,18 @@ TEST_F(TreeListTest, FindMessagesSearchTheShownRows) {
 TEST_F(TreeListTest, FindNoCaseChildStringTakesAPrefixLength) {
     BuildSample();
     list->Expand(0);
-    EXPECT_EQ(1, list->FindNoCaseChildString(S(u"A1xyz"), 2, 1));
-    EXPECT_EQ(-1, list->FindNoCaseChildString(S(u"A1xyz"), 2, 0))
+    EXPECT_EQ(1, list->FindNoCaseChildString(S(L"A1xyz"), 2, 1));
+    EXPECT_EQ(-1, list->FindNoCaseChildString(S(L"A1xyz"), 2, 0))
         << "without matchParents only leaves are candidates, and A1a and A1b do not show";
-    EXPECT_EQ(-1, list->FindNoCaseChildString(S(u"x"), 0, 1)) << "length 0";
+    EXPECT_EQ(-1, list->FindNoCaseChildString(S(L"x"), 0, 1)) << "length 0";
     CString found;
-    EXPECT_EQ(3, list->FindNoCaseChildStringItem(S(u"b"), found, 1, 1, 0));
-    EXPECT_EQ(CString(u"B"), found);
+    EXPECT_EQ(3, list->FindNoCaseChildStringItem(S(L"b"), found, 1, 1, 0));
+    EXPECT_EQ(CString(L"B"), found);
 }
 
 // ---- XML ------------------------------------------------------------------------------
 
-std::string Narrow(const std::u16string& s) {
+std::string Narrow(const std::wstring& s) {
     return std::string(s.begin(), s.end());
 }
 
@@ -228,7 +228,7 @@ std::string Node(int id, bool expanded, bool selected, const char* text, const c
 TEST_F(TreeListTest, XmlDumpOfTheShownRows) {
     BuildSample();
     list->Expand(0);
-    list->SetDisplayText(2, S(u"A2 <&>"));
+    list->SetDisplayText(2, S(L"A2 <&>"));
     Select(2);
     const std::string expected =
         "<HbxTreeList>" + Node(0, true, false, "A", "") + Node(1, false, false, "A1", "A") +

@@ -70,13 +70,13 @@ TEST_F(RandomTreeTest, RowsStayThePreOrderOfTheShownNodes) {
         const unsigned op = rng() % 100;
         int handle = -1;
         if (op < 12 || list->GetRoots().IsEmpty()) {
-            list->AddItem(S(u"root"), 0, 1, data++, -1, &handle);
+            list->AddItem(S(L"root"), 0, 1, data++, -1, &handle);
         } else if (op < 20) {
             const int index =
                 static_cast<int>(rng() % static_cast<unsigned>(list->GetRoots().GetSize() + 1));
             if (!RootInsertionKeepsOrder(index))
                 continue;
-            list->InsertItem(S(u"inserted root"), 0, 1, data++, -1, index, &handle);
+            list->InsertItem(S(L"inserted root"), 0, 1, data++, -1, index, &handle);
         } else if (op < 45) {
             // Under a shown parent that is expanded or childless the new row
             // follows the parent's shown rows; under a collapsed parent,
@@ -86,10 +86,10 @@ TEST_F(RandomTreeTest, RowsStayThePreOrderOfTheShownNodes) {
                 continue;
             const bool shows = list->GetListboxIndex(parent) >= 0;
             if (shows && (parent->IsExpanded() || parent->GetNumberOfChildren() == 0))
-                list->AddItem(S(u"child"), 6, 6, data++, parent->GetTreeNodeItemHandle(), &handle,
+                list->AddItem(S(L"child"), 6, 6, data++, parent->GetTreeNodeItemHandle(), &handle,
                               true);
             else if (!parent->IsExpanded())
-                list->AddItem(S(u"hidden child"), 6, 6, data++, parent->GetTreeNodeItemHandle(),
+                list->AddItem(S(L"hidden child"), 6, 6, data++, parent->GetTreeNodeItemHandle(),
                               &handle, false);
             else
                 continue;

@@ -9,74 +9,74 @@ namespace {
 
 TEST_F(TreeListTest, AddItemRowRulesIncludingTheirQuirks) {
     int a = 0, a1 = 0, b = 0;
-    EXPECT_EQ(0, list->AddItem(S(u"A"), 0, 1, 1, -1, &a));
-    EXPECT_EQ(1, list->AddItem(S(u"B"), 0, 1, 2, -1, &b));
+    EXPECT_EQ(0, list->AddItem(S(L"A"), 0, 1, 1, -1, &a));
+    EXPECT_EQ(1, list->AddItem(S(L"B"), 0, 1, 2, -1, &b));
     EXPECT_EQ(1, a);
     EXPECT_EQ(2, b);
 
     SCOPED_TRACE("first child, parent expanded: the row after the parent");
-    EXPECT_EQ(1, list->AddItem(S(u"A1"), 0, 1, 3, a, &a1, true));
-    EXPECT_EQ((RowList{u"A", u"A1", u"B"}), Rows());
+    EXPECT_EQ(1, list->AddItem(S(L"A1"), 0, 1, 3, a, &a1, true));
+    EXPECT_EQ((RowList{L"A", L"A1", L"B"}), Rows());
     EXPECT_NE(0, list->FindNode(a)->IsExpanded());
 
     SCOPED_TRACE("second child: after the shown descendants");
-    EXPECT_EQ(2, list->AddItem(S(u"A2"), 0, 1, 4, a, nullptr, true));
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B"}), Rows());
+    EXPECT_EQ(2, list->AddItem(S(L"A2"), 0, 1, 4, a, nullptr, true));
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B"}), Rows());
 
     SCOPED_TRACE("without expandParent: no row, the result is the prior child count");
-    EXPECT_EQ(0, list->AddItem(S(u"A1a"), 0, 1, 5, a1, nullptr, false));
-    EXPECT_EQ(1, list->AddItem(S(u"A1b"), 0, 1, 6, a1, nullptr, false));
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B"}), Rows());
+    EXPECT_EQ(0, list->AddItem(S(L"A1a"), 0, 1, 5, a1, nullptr, false));
+    EXPECT_EQ(1, list->AddItem(S(L"A1b"), 0, 1, 6, a1, nullptr, false));
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B"}), Rows());
     EXPECT_EQ(0, list->FindNode(a1)->IsExpanded());
 
     SCOPED_TRACE("collapsed parent with children: the row lands prior rows below it");
-    EXPECT_EQ(4, list->AddItem(S(u"A1c"), 0, 1, 7, a1, nullptr, true));
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"A1c"}), Rows());
+    EXPECT_EQ(4, list->AddItem(S(L"A1c"), 0, 1, 7, a1, nullptr, true));
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"A1c"}), Rows());
     EXPECT_NE(0, list->FindNode(a1)->IsExpanded()) << "flagged although A1a and A1b do not show";
 
     SCOPED_TRACE("a parent that does not show: node added, no row");
     int hidden = 0;
     const int a1a = list->FindNodeFromItemData(5)->GetTreeNodeItemHandle();
-    EXPECT_EQ(-1, list->AddItem(S(u"deep"), 0, 1, 8, a1a, &hidden, true));
+    EXPECT_EQ(-1, list->AddItem(S(L"deep"), 0, 1, 8, a1a, &hidden, true));
     EXPECT_EQ(8, hidden);
     EXPECT_EQ(list->FindNode(8), list->FindNodeFromItemData(8));
 
     SCOPED_TRACE("an unknown parent: nothing added, no handle used");
     const int nodes = list->GetNodeCount();
-    EXPECT_EQ(-1, list->AddItem(S(u"lost"), 0, 1, 9, 999));
+    EXPECT_EQ(-1, list->AddItem(S(L"lost"), 0, 1, 9, 999));
     EXPECT_EQ(nodes, list->GetNodeCount());
     int next = 0;
-    list->AddItem(S(u"D"), 0, 1, 10, -1, &next);
+    list->AddItem(S(L"D"), 0, 1, 10, -1, &next);
     EXPECT_EQ(9, next);
 
     SCOPED_TRACE("a shown, expanded parent without expandParent: flag cleared, rows stay");
-    EXPECT_EQ(0, list->AddItem(S(u"A3"), 0, 1, 11, a, nullptr, false));
+    EXPECT_EQ(0, list->AddItem(S(L"A3"), 0, 1, 11, a, nullptr, false));
     EXPECT_EQ(0, list->FindNode(a)->IsExpanded());
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"A1c", u"D"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"A1c", L"D"}), Rows());
 }
 
 TEST_F(TreeListTest, AddItemByIndexNamesTheParentByRow) {
     BuildSample();
-    EXPECT_EQ(3, list->AddItemByIndex(S(u"B2"), 6, 6, 220, 1, nullptr, true))
+    EXPECT_EQ(3, list->AddItemByIndex(S(L"B2"), 6, 6, 220, 1, nullptr, true))
         << "B at row 1, collapsed with one child: the quirk puts the row one below";
-    EXPECT_EQ(-1, list->AddItemByIndex(S(u"x"), 6, 6, 0, 42)) << "a row without node";
-    EXPECT_EQ(4, list->AddItemByIndex(S(u"D"), 6, 6, 400, -1)) << "row -1: a new root";
-    EXPECT_EQ(u"D", Rows().back());
+    EXPECT_EQ(-1, list->AddItemByIndex(S(L"x"), 6, 6, 0, 42)) << "a row without node";
+    EXPECT_EQ(4, list->AddItemByIndex(S(L"D"), 6, 6, 400, -1)) << "row -1: a new root";
+    EXPECT_EQ(L"D", Rows().back());
 }
 
 TEST_F(TreeListTest, InsertItemAmongRootsCountsOnlyThePrecedingRoot) {
     BuildSample();
     list->Expand(0); // A, A1, A2, B, C
-    EXPECT_EQ(2, list->InsertItem(S(u"R"), 6, 6, 0, -1, 2))
+    EXPECT_EQ(2, list->InsertItem(S(L"R"), 6, 6, 0, -1, 2))
         << "root 0's shown rows are not counted";
-    EXPECT_EQ((RowList{u"A", u"A1", u"R", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"R", L"A2", L"B", L"C"}), Rows());
     EXPECT_EQ(2, list->GetRoots().GetNodeIndex(list->FindNodeFromItemData(0)));
 
-    EXPECT_EQ(0, list->InsertItem(S(u"first"), 6, 6, 1, -1, 0));
-    EXPECT_EQ(u"first", Rows().front());
+    EXPECT_EQ(0, list->InsertItem(S(L"first"), 6, 6, 1, -1, 0));
+    EXPECT_EQ(L"first", Rows().front());
     const int nodes = list->GetNodeCount();
-    EXPECT_EQ(-1, list->InsertItem(S(u"far"), 6, 6, 2, -1, 99));
-    EXPECT_EQ(-1, list->InsertItem(S(u"neg"), 6, 6, 2, -1, -1));
+    EXPECT_EQ(-1, list->InsertItem(S(L"far"), 6, 6, 2, -1, 99));
+    EXPECT_EQ(-1, list->InsertItem(S(L"neg"), 6, 6, 2, -1, -1));
     EXPECT_EQ(nodes, list->GetNodeCount());
 }
 
@@ -84,27 +84,27 @@ TEST_F(TreeListTest, InsertItemUnderAParentUsesTheParentsRowPlusIndex) {
     BuildSample();
     list->Expand(0); // A, A1, A2, B, C
     int x = 0;
-    EXPECT_EQ(1, list->InsertItem(S(u"X"), 6, 6, 0, 1, 1, &x));
-    EXPECT_EQ((RowList{u"A", u"X", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ(1, list->InsertItem(S(L"X"), 6, 6, 0, 1, 1, &x));
+    EXPECT_EQ((RowList{L"A", L"X", L"A1", L"A2", L"B", L"C"}), Rows());
     EXPECT_EQ(1, list->FindNode(1)->GetNodeIndex(list->FindNode(x))) << "the model keeps index 1";
     EXPECT_EQ(1, list->FindNode(x)->GetLevel());
 
     SCOPED_TRACE("expandParent on a collapsed parent expands it first");
-    EXPECT_EQ(4, list->InsertItem(S(u"Y"), 6, 6, 0, 6, 0, nullptr, true));
-    EXPECT_EQ((RowList{u"A", u"X", u"A1", u"A2", u"Y", u"B", u"B1", u"C"}), Rows())
+    EXPECT_EQ(4, list->InsertItem(S(L"Y"), 6, 6, 0, 6, 0, nullptr, true));
+    EXPECT_EQ((RowList{L"A", L"X", L"A1", L"A2", L"Y", L"B", L"B1", L"C"}), Rows())
         << "B expanded to show B1, then Y went to B's row plus 0, above B";
 
     SCOPED_TRACE("a collapsed parent without expandParent: model only");
     const auto before = Rows();
-    EXPECT_EQ(-1, list->InsertItem(S(u"Z"), 6, 6, 0, 2, 0));
+    EXPECT_EQ(-1, list->InsertItem(S(L"Z"), 6, 6, 0, 2, 0));
     EXPECT_EQ(before, Rows());
     EXPECT_EQ(3, list->FindNode(2)->GetNumberOfChildren());
 
     SCOPED_TRACE("an index past the children");
     const int nodes = list->GetNodeCount();
-    EXPECT_EQ(-1, list->InsertItem(S(u"W"), 6, 6, 0, 2, 4));
+    EXPECT_EQ(-1, list->InsertItem(S(L"W"), 6, 6, 0, 2, 4));
     EXPECT_EQ(nodes, list->GetNodeCount());
-    EXPECT_EQ(-1, list->InsertItemByIndex(S(u"W"), 6, 6, 0, 99, 0)) << "a row without node";
+    EXPECT_EQ(-1, list->InsertItemByIndex(S(L"W"), 6, 6, 0, 99, 0)) << "a row without node";
 }
 
 TEST_F(TreeListTest, ExpandShowsOnlyChildrenAndCollapseRemovesAllShownDescendants) {
@@ -113,23 +113,23 @@ TEST_F(TreeListTest, ExpandShowsOnlyChildrenAndCollapseRemovesAllShownDescendant
     list->Expand(-1);
     list->Expand(50);
     list->Collapse(1); // B, collapsed
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows()) << "rows that cannot change are ignored";
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows()) << "rows that cannot change are ignored";
     list->Expand(1);
     list->Expand(1); // already expanded
-    EXPECT_EQ((RowList{u"A", u"B", u"B1", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"B1", L"C"}), Rows());
     list->Collapse(1);
 
     list->ExpandThisAndParent(list->FindNode(4)); // A1b
-    EXPECT_EQ((RowList{u"A", u"A1", u"A1a", u"A1b", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A1a", L"A1b", L"A2", L"B", L"C"}), Rows());
     list->Collapse(0);
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     EXPECT_EQ(0, list->FindNode(2)->IsExpanded()) << "A1's flag cleared with its row";
     list->Expand(0);
-    EXPECT_EQ((RowList{u"A", u"A1", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"C"}), Rows());
     list->Expand(1);
     list->Expand(5); // B
     list->CollapseAllBranches();
-    EXPECT_EQ((RowList{u"A", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
     for (int handle = 1; handle <= 8; ++handle)
         EXPECT_EQ(0, list->FindNode(handle)->IsExpanded()) << "handle " << handle;
 }
@@ -161,17 +161,17 @@ TEST_F(TreeListTest, DeleteItemByIndexRemovesTheSubtreeAndItsRows) {
     list->Expand(0);
     list->Expand(1);
     EXPECT_TRUE(list->DeleteItemByIndex(1)); // A1 with A1a, A1b
-    EXPECT_EQ((RowList{u"A", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A2", L"B", L"C"}), Rows());
     EXPECT_EQ(5, list->GetNodeCount());
     EXPECT_EQ(nullptr, list->FindNode(3));
 
     list->Expand(2);                         // B
     EXPECT_TRUE(list->DeleteItemByIndex(3)); // B1, B's only child
-    EXPECT_EQ((RowList{u"A", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A2", L"B", L"C"}), Rows());
     EXPECT_EQ(0, list->FindNode(6)->IsExpanded()) << "a node left without children is collapsed";
 
     EXPECT_TRUE(list->DeleteItemByIndex(0)); // a root
-    EXPECT_EQ((RowList{u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"B", L"C"}), Rows());
     EXPECT_EQ(2, list->GetRoots().GetSize());
     EXPECT_FALSE(list->DeleteItemByIndex(2));
     EXPECT_FALSE(list->DeleteItemByIndex(-1));
@@ -181,13 +181,13 @@ TEST_F(TreeListTest, DeleteItemByIndexRemovesTheSubtreeAndItsRows) {
     EXPECT_EQ(0, list->GetRowCount());
     EXPECT_EQ(0, list->GetNodeCount());
     int handle = 0;
-    list->AddItem(S(u"new"), 0, 0, 0, -1, &handle);
+    list->AddItem(S(L"new"), 0, 0, 0, -1, &handle);
     EXPECT_EQ(1, handle) << "handles start again";
 }
 
 TEST_F(TreeListTest, AddHeaderAndSeparator) {
-    list->AddItem(S(u"item"), 0, 0, 0);
-    EXPECT_EQ(1, list->AddHeader(S(u"Tags")));
+    list->AddItem(S(L"item"), 0, 0, 0);
+    EXPECT_EQ(1, list->AddHeader(S(L"Tags")));
     EXPECT_EQ(2, list->AddSeparator());
     const CTreeNode* header = list->GetNode(1);
     EXPECT_TRUE(header->IsHeader());
@@ -200,7 +200,7 @@ TEST_F(TreeListTest, AddHeaderAndSeparator) {
         "with hidden children, handles and rows part ways: the flags land on handle row + 1");
     list->ResetTreeContents();
     BuildSample();                             // 8 nodes, rows A, B, C
-    EXPECT_EQ(3, list->AddHeader(S(u"Late"))); // handle 9 at row 3
+    EXPECT_EQ(3, list->AddHeader(S(L"Late"))); // handle 9 at row 3
     EXPECT_FALSE(list->GetNode(3)->IsHeader());
     EXPECT_TRUE(list->FindNode(4)->IsHeader()) << "A1b";
     EXPECT_FALSE(list->FindNode(4)->DrawLines());
@@ -221,27 +221,27 @@ TEST_F(TreeListTest, QueriesByRow) {
     EXPECT_TRUE(list->IsChildNode(2));
     EXPECT_FALSE(list->IsChildNode(77));
 
-    list->SetDisplayText(2, S(u"A2 renamed"));
-    EXPECT_EQ(u"A2 renamed", Rows()[2]);
-    list->SetDisplayText(42, S(u"nothing"));
+    list->SetDisplayText(2, S(L"A2 renamed"));
+    EXPECT_EQ(L"A2 renamed", Rows()[2]);
+    list->SetDisplayText(42, S(L"nothing"));
     Select(2);
     EXPECT_TRUE(list->IsChildNodeSelected());
     EXPECT_EQ(120u, list->GetCurSelItemData());
-    EXPECT_EQ(CString(u"A2 renamed"), list->GetCurSelDisplayText());
+    EXPECT_EQ(CString(L"A2 renamed"), list->GetCurSelDisplayText());
 }
 
 TEST_F(TreeListTest, SelectionByItemDataOrTextShowsTheNodeAndNotifies) {
     BuildSample();
     EXPECT_EQ(3, list->SelectItemFromItemData(112, true)); // A1b, hidden
     EXPECT_EQ(3, Selected());
-    EXPECT_EQ((RowList{u"A", u"A1", u"A1a", u"A1b", u"A2", u"B", u"C"}), Rows());
+    EXPECT_EQ((RowList{L"A", L"A1", L"A1a", L"A1b", L"A2", L"B", L"C"}), Rows());
     ASSERT_EQ(1, parent->CountCommands(LBN_SELCHANGE));
     EXPECT_EQ(kControlId, parent->commands.back().id);
     EXPECT_EQ(Hwnd(), parent->commands.back().from);
 
-    EXPECT_EQ(6, list->SelectItemFromString(S(u"B1"), false));
+    EXPECT_EQ(6, list->SelectItemFromString(S(L"B1"), false));
     EXPECT_EQ(1, parent->CountCommands(LBN_SELCHANGE)) << "no notification asked";
-    EXPECT_EQ(-1, list->SelectItemFromString(S(u"b1"), true)) << "the whole text, case-sensitive";
+    EXPECT_EQ(-1, list->SelectItemFromString(S(L"b1"), true)) << "the whole text, case-sensitive";
     EXPECT_EQ(-1, list->SelectItemFromItemData(999, true));
     EXPECT_EQ(6, Selected());
 }
@@ -249,10 +249,10 @@ TEST_F(TreeListTest, SelectionByItemDataOrTextShowsTheNodeAndNotifies) {
 TEST_F(TreeListTest, ScrollingAndTheScrollbar) {
     EXPECT_FALSE(list->IsVerticalScrollbarVisible());
     for (int i = 0; i < 10; ++i)
-        list->AddItem(S(u"row"), -1, -1, static_cast<unsigned long>(i));
+        list->AddItem(S(L"row"), -1, -1, static_cast<unsigned long>(i));
     EXPECT_FALSE(list->IsVerticalScrollbarVisible()) << "exactly one page";
     for (int i = 10; i < 40; ++i)
-        list->AddItem(S(u"row"), -1, -1, static_cast<unsigned long>(i));
+        list->AddItem(S(L"row"), -1, -1, static_cast<unsigned long>(i));
     EXPECT_TRUE(list->IsVerticalScrollbarVisible());
     const auto top = [&] { return static_cast<int>(SendMessageW(Hwnd(), LB_GETTOPINDEX, 0, 0)); };
     list->ScrollItemIntoView(15);
@@ -282,10 +282,10 @@ TEST(TreeListFactory, EveryInsertionGoesThroughTheNodeFactory) {
     FactoryList list;
     ASSERT_TRUE(CreateList(list, parent));
     int root = 0;
-    list.AddItem(S(u"root"), 0, 0, 0, -1, &root);
-    list.AddItem(S(u"child"), 0, 0, 0, root, nullptr, true);
-    list.InsertItem(S(u"inserted"), 0, 0, 0, root, 0);
-    list.AddHeader(S(u"header"));
+    list.AddItem(S(L"root"), 0, 0, 0, -1, &root);
+    list.AddItem(S(L"child"), 0, 0, 0, root, nullptr, true);
+    list.InsertItem(S(L"inserted"), 0, 0, 0, root, 0);
+    list.AddHeader(S(L"header"));
     list.AddSeparator();
     EXPECT_EQ(5, list.made);
     for (int handle = 1; handle <= 5; ++handle)

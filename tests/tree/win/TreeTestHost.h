@@ -4,8 +4,6 @@
 // messages and read its rows back.
 #include <windows.h>
 
-#include "framework/win/Wide.h"
-
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -90,16 +88,16 @@ inline void DoubleClick(HWND hWnd, int x, int y) {
 }
 
 // The rows as the list box reports them through LB_GETTEXT.
-inline std::vector<std::u16string> RowTexts(HWND hWnd) {
-    std::vector<std::u16string> rows;
+inline std::vector<std::wstring> RowTexts(HWND hWnd) {
+    std::vector<std::wstring> rows;
     const int count = static_cast<int>(SendMessageW(hWnd, LB_GETCOUNT, 0, 0));
     for (int i = 0; i < count; ++i) {
         const LRESULT length = SendMessageW(hWnd, LB_GETTEXTLEN, i, 0);
         if (length < 0) {
-            rows.push_back(u"<error>");
+            rows.push_back(L"<error>");
             continue;
         }
-        std::u16string text(static_cast<size_t>(length) + 1, u'\0');
+        std::wstring text(static_cast<size_t>(length) + 1, L'\0');
         SendMessageW(hWnd, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()));
         text.resize(static_cast<size_t>(length));
         rows.push_back(text);
