@@ -19,3 +19,5 @@
 #define IDS_VU_ABORT 2014
 #define IDS_VU_IGNORE 2015
 #define IDS_VU_UNKNOWN 2016
+// Tab beam bar: the splitter's resize cursor (scripts/gen_tab_cursors.py)
+#define IDC_VU_TAB_SPLITTER 30980
