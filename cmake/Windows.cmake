@@ -15,7 +15,11 @@ endif()
 add_library(vulib SHARED ${VULIB_WIN_SOURCES} ${VULIB_RC})
 set_target_properties(vulib PROPERTIES PREFIX "" OUTPUT_NAME vulib IMPORT_PREFIX "lib"
                                        IMPORT_SUFFIX ".dll.a")
-target_include_directories(vulib PUBLIC ${CMAKE_SOURCE_DIR})
+target_include_directories(vulib PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>
+                                        $<INSTALL_INTERFACE:include>)
+# A host compiles our headers with the same character set and without the
+# min/max macros that <windows.h> would otherwise define.
+target_compile_definitions(vulib INTERFACE UNICODE _UNICODE NOMINMAX)
 target_compile_options(vulib PRIVATE ${VULIB_WARNINGS})
 set(VULIB_WIN32_LIBS user32 gdi32 comctl32 msimg32 ole32 oleaut32 uuid advapi32 shell32
     shlwapi uxtheme)

@@ -76,26 +76,26 @@ void Context::Click(HWND hWnd, int x, int y) {
     Pump();
 }
 
-bool Context::SaveWindowPng(HWND hWnd, const std::wstring& name) {
+bool Context::SaveWindowPng(HWND hWnd, const std::wstring& name, const std::wstring& caption) {
     RedrawWindow(hWnd, nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW | RDW_FRAME);
     Pump();
     RECT rc{};
     GetWindowRect(hWnd, &rc);
-    return SaveScreenRect(rc, name);
+    return SaveScreenPng(rc, name, caption);
 }
 
-bool Context::SaveClientPng(HWND hWnd, const std::wstring& name) {
+bool Context::SaveClientPng(HWND hWnd, const std::wstring& name, const std::wstring& caption) {
     RedrawWindow(hWnd, nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW | RDW_FRAME);
     Pump();
     RECT rc{};
     GetClientRect(hWnd, &rc);
     MapWindowPoints(hWnd, nullptr, reinterpret_cast<POINT*>(&rc), 2);
-    return SaveScreenRect(rc, name);
+    return SaveScreenPng(rc, name, caption);
 }
 
-bool Context::SaveScreenRect(const RECT& rc, const std::wstring& name) {
+bool Context::SaveScreenPng(const RECT& rc, const std::wstring& name, const std::wstring& caption) {
     const int width = rc.right - rc.left;
     const int height = rc.bottom - rc.top;
     BITMAPINFO bi{};
@@ -128,10 +128,12 @@ bool Context::SaveScreenRect(const RECT& rc, const std::wstring& name) {
     ReleaseDC(nullptr, screen);
     const bool ok = WritePng(m_outDir + L"\\" + name + L".png", picture);
     Check(ok, "writing a picture");
+    m_outputs.push_back({m_exhibit, name + L".png", caption.empty() ? name : caption, true});
     return ok;
 }
 
-bool Context::SaveText(const std::wstring& name, const std::wstring& text) {
+bool Context::SaveText(const std::wstring& name, const std::wstring& text,
+                       const std::wstring& caption) {
     FILE* file = _wfopen((m_outDir + L"\\" + name).c_str(), L"wb");
     if (file == nullptr) {
         Check(false, "opening a text file");
@@ -141,6 +143,77 @@ bool Context::SaveText(const std::wstring& name, const std::wstring& text) {
     const bool ok = fwrite(utf8.data(), 1, utf8.size(), file) == utf8.size();
     fclose(file);
     Check(ok, "writing a text file");
+    m_outputs.push_back({m_exhibit, name, caption.empty() ? name : caption, false});
+    return ok;
+}
+
+void Context::BeginExhibit(const char* name) {
+    m_exhibit = name;
+}
+
+namespace {
+
+std::string Html(const std::wstring& text) {
+    std::string out;
+    for (char c : vu::Utf16ToUtf8(text)) {
+        switch (c) {
+        case '&':
+            out += "&amp;";
+            break;
+        case '<':
+            out += "&lt;";
+            break;
+        case '>':
+            out += "&gt;";
+            break;
+        case '"':
+            out += "&quot;";
+            break;
+        default:
+            out += c;
+        }
+    }
+    return out;
+}
+
+} // namespace
+
+bool Context::WriteIndex() {
+    std::string html =
+        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+        "<title>VuLib gallery</title>\n<style>\n"
+        "body{font-family:sans-serif;margin:2em;background:#f4f4f4}\n"
+        "section{margin-bottom:2.5em}figure{display:inline-block;margin:0 1.5em 1em 0;"
+        "vertical-align:top}\nimg{border:1px solid #999;background:#fff}\n"
+        "figcaption{max-width:40em;margin-top:.4em}\n</style>\n</head>\n<body>\n"
+        "<h1>VuLib gallery</h1>\n<p>Every control of the library, drawn by vulib.dll "
+        "under Wine, with the XML its controls describe themselves in.</p>\n";
+    std::string current;
+    bool open = false;
+    for (const Output& output : m_outputs) {
+        if (!open || output.exhibit != current) {
+            if (open)
+                html += "</section>\n";
+            current = output.exhibit;
+            open = true;
+            html +=
+                "<section>\n<h2>" + Html(std::wstring(current.begin(), current.end())) + "</h2>\n";
+        }
+        if (output.picture)
+            html += "<figure><img src=\"" + Html(output.file) + "\" alt=\"" + Html(output.caption) +
+                    "\"><figcaption>" + Html(output.caption) + "</figcaption></figure>\n";
+        else
+            html +=
+                "<p><a href=\"" + Html(output.file) + "\">" + Html(output.caption) + "</a></p>\n";
+    }
+    if (open)
+        html += "</section>\n";
+    html += "</body>\n</html>\n";
+    FILE* file = _wfopen((m_outDir + L"\\index.html").c_str(), L"wb");
+    const bool ok = file != nullptr && fwrite(html.data(), 1, html.size(), file) == html.size();
+    if (file != nullptr)
+        fclose(file);
+    Check(ok, "writing index.html");
     return ok;
 }
 
@@ -163,10 +236,12 @@ int main() {
     gallery::Context context(outDir);
     for (const gallery::Exhibit& exhibit : gallery::Exhibits()) {
         const int before = context.Failures();
+        context.BeginExhibit(exhibit.name);
         exhibit.run(context);
         std::printf("exhibit %s: %s\n", exhibit.name,
                     context.Failures() == before ? "ok" : "FAILED");
         std::fflush(stdout);
     }
+    context.WriteIndex();
     return context.Failures() == 0 ? 0 : 1;
 }

@@ -24,13 +24,22 @@ public:
     void Key(HWND hWnd, UINT vk);
     void Click(HWND hWnd, int x, int y);
 
-    // Saves the window (frame and all) as out/<name>.png.
-    bool SaveWindowPng(HWND hWnd, const std::wstring& name);
+    // Saves the window (frame and all) as out/<name>.png. The caption is
+    // shown under the picture on the index page (the name when empty).
+    bool SaveWindowPng(HWND hWnd, const std::wstring& name, const std::wstring& caption = L"");
     // Saves the client area only (a frame's caption is not drawn without a
     // window manager).
-    bool SaveClientPng(HWND hWnd, const std::wstring& name);
-    // Saves text as UTF-8.
-    bool SaveText(const std::wstring& name, const std::wstring& text);
+    bool SaveClientPng(HWND hWnd, const std::wstring& name, const std::wstring& caption = L"");
+    // Saves a rectangle of the screen, for what spans several top-level
+    // windows (a dropped-down list beside its combo box).
+    bool SaveScreenPng(const RECT& rc, const std::wstring& name, const std::wstring& caption = L"");
+    // Saves text as UTF-8; the index page links it.
+    bool SaveText(const std::wstring& name, const std::wstring& text,
+                  const std::wstring& caption = L"");
+
+    // The index page: one section per exhibit with its pictures and links.
+    void BeginExhibit(const char* name);
+    bool WriteIndex();
     // Records a failed expectation; the gallery then exits with 1.
     void Check(bool ok, const char* what);
 
@@ -38,8 +47,15 @@ public:
     const std::wstring& OutDir() const { return m_outDir; }
 
 private:
-    bool SaveScreenRect(const RECT& rc, const std::wstring& name);
+    struct Output {
+        std::string exhibit;
+        std::wstring file;
+        std::wstring caption;
+        bool picture;
+    };
     std::wstring m_outDir;
+    std::string m_exhibit;
+    std::vector<Output> m_outputs;
     int m_failures = 0;
 };
 

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include <zlib.h>
+
 namespace gallery {
 namespace {
 
@@ -38,28 +40,47 @@ void Chunk(std::vector<uint8_t>& out, const char* type, const std::vector<uint8_
     Put32(out, Crc32(body.data(), body.size()));
 }
 
-// A zlib stream of stored blocks (at most 65535 bytes each).
-std::vector<uint8_t> ZlibStored(const std::vector<uint8_t>& raw) {
-    std::vector<uint8_t> out{0x78, 0x01};
-    size_t pos = 0;
-    do {
-        const size_t n = std::min<size_t>(65535, raw.size() - pos);
-        const bool last = pos + n == raw.size();
-        out.push_back(last ? 1 : 0);
-        out.push_back(static_cast<uint8_t>(n));
-        out.push_back(static_cast<uint8_t>(n >> 8));
-        out.push_back(static_cast<uint8_t>(~n));
-        out.push_back(static_cast<uint8_t>(~n >> 8));
-        out.insert(out.end(), raw.begin() + static_cast<long>(pos),
-                   raw.begin() + static_cast<long>(pos + n));
-        pos += n;
-    } while (pos < raw.size());
-    uint32_t a = 1, b = 0;
-    for (uint8_t byte : raw) {
-        a = (a + byte) % 65521;
-        b = (b + a) % 65521;
+// Filters each row with the PNG filter (none, sub or up) whose bytes sum
+// smallest as signed values, the usual heuristic that lets deflate find the
+// runs of a screenshot.
+std::vector<uint8_t> FilterRows(const Picture& picture) {
+    const size_t stride = static_cast<size_t>(picture.width) * 3;
+    std::vector<uint8_t> raw;
+    raw.reserve((stride + 1) * static_cast<size_t>(picture.height));
+    std::vector<uint8_t> candidate[3];
+    for (int y = 0; y < picture.height; ++y) {
+        const uint8_t* row = picture.rgb.data() + stride * static_cast<size_t>(y);
+        const uint8_t* above = y > 0 ? row - stride : nullptr;
+        unsigned long best = ~0ul;
+        int bestFilter = 0;
+        for (int filter = 0; filter < 3; ++filter) {
+            candidate[filter].resize(stride);
+            unsigned long cost = 0;
+            for (size_t x = 0; x < stride; ++x) {
+                const uint8_t predictor = filter == 1   ? (x >= 3 ? row[x - 3] : 0)
+                                          : filter == 2 ? (above != nullptr ? above[x] : 0)
+                                                        : 0;
+                const uint8_t value = static_cast<uint8_t>(row[x] - predictor);
+                candidate[filter][x] = value;
+                cost += value < 128 ? value : 256 - value;
+            }
+            if (cost < best) {
+                best = cost;
+                bestFilter = filter;
+            }
+        }
+        raw.push_back(static_cast<uint8_t>(bestFilter));
+        raw.insert(raw.end(), candidate[bestFilter].begin(), candidate[bestFilter].end());
     }
-    Put32(out, (b << 16) | a);
+    return raw;
+}
+
+std::vector<uint8_t> Deflate(const std::vector<uint8_t>& raw) {
+    uLongf size = compressBound(static_cast<uLong>(raw.size()));
+    std::vector<uint8_t> out(size);
+    if (compress2(out.data(), &size, raw.data(), static_cast<uLong>(raw.size()), 9) != Z_OK)
+        return {};
+    out.resize(size);
     return out;
 }
 
@@ -73,15 +94,10 @@ std::vector<uint8_t> EncodePng(const Picture& picture) {
     header.insert(header.end(), {8, 2, 0, 0, 0}); // 8-bit RGB, no interlace
     Chunk(out, "IHDR", header);
 
-    std::vector<uint8_t> raw;
-    const size_t stride = static_cast<size_t>(picture.width) * 3;
-    raw.reserve((stride + 1) * static_cast<size_t>(picture.height));
-    for (int y = 0; y < picture.height; ++y) {
-        raw.push_back(0); // filter: none
-        const auto row = picture.rgb.begin() + static_cast<long>(stride * static_cast<size_t>(y));
-        raw.insert(raw.end(), row, row + static_cast<long>(stride));
-    }
-    Chunk(out, "IDAT", ZlibStored(raw));
+    const std::vector<uint8_t> compressed = Deflate(FilterRows(picture));
+    if (compressed.empty())
+        return {};
+    Chunk(out, "IDAT", compressed);
     Chunk(out, "IEND", {});
     return out;
 }
@@ -91,6 +107,8 @@ bool WritePng(const std::wstring& path, const Picture& picture) {
         picture.rgb.size() != static_cast<size_t>(picture.width) * picture.height * 3)
         return false;
     const std::vector<uint8_t> bytes = EncodePng(picture);
+    if (bytes.empty())
+        return false;
     FILE* file = _wfopen(path.c_str(), L"wb");
     if (file == nullptr)
         return false;

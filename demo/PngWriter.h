@@ -1,7 +1,6 @@
 #pragma once
-// Writes 8-bit RGB pictures as PNG files, with no library: the image data
-// goes into stored (uncompressed) deflate blocks, which every PNG reader
-// accepts.
+// Writes 8-bit RGB pictures as PNG files, each row filtered and the whole
+// deflated by zlib at its best compression.
 #include <cstdint>
 #include <string>
 #include <vector>

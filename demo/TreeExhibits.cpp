@@ -130,10 +130,13 @@ void ProjectOrganizer(Context& c) {
     c.Check(xml.find(L"<selected>true</selected><text>Motor\tUDT_Motor\tMain drive</text>"
                      L"<parent>Program Tags</parent>") != std::wstring::npos,
             "the XML dump marks the selected tag");
-    c.SaveText(L"tree_list_box.xml", xml);
-    c.SaveWindowPng(tree.m_hWnd, L"tree_list_box");
-    c.SaveWindowPng(summary.m_hWnd, L"summary_list_box");
-    c.SaveClientPng(frame, L"project_organizer");
+    c.SaveText(L"tree_list_box.xml", xml, L"The tree list box's XML dump (HbxTreeList)");
+    c.SaveWindowPng(tree.m_hWnd, L"tree_list_box",
+                    L"VU_CTreeListBox: a controller project with tab-separated columns, a header, "
+                    L"a separator and an inhibited (greyed) module");
+    c.SaveWindowPng(summary.m_hWnd, L"summary_list_box",
+                    L"VU_CSummaryListBox: bold headers with indented summary lines");
+    c.SaveClientPng(frame, L"project_organizer", L"Both controls side by side in one frame");
 
     tree.DestroyWindow();
     summary.DestroyWindow();

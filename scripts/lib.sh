@@ -5,7 +5,8 @@ JOBS=${JOBS:-$(nproc)}
 
 NATIVE_PACKAGES="cmake make g++ pkg-config libgtest-dev libgmock-dev libbenchmark-dev
   libpcre2-dev libicu-dev libxml2-dev libpugixml-dev unicode-data python3 perl-doc"
-WINDOWS_PACKAGES="g++-mingw-w64-x86-64 wine64 xvfb xauth imagemagick x11-apps"
+WINDOWS_PACKAGES="g++-mingw-w64-x86-64 wine64 xvfb xauth imagemagick x11-apps xdotool
+  libz-mingw-w64-dev"
 FUZZ_PACKAGES="clang libclang-rt-14-dev"
 
 ensure_packages() {

@@ -184,6 +184,7 @@ VU_CHostServices* VuGetHostServices() {
 VU_CHostServices* VuSetHostServices(VU_CHostServices* pServices) {
     VU_CHostServices* previous = VuGetHostServices();
     g_pServices = pServices;
+    AfxSetAppServices(VuGetHostServices());
     return previous;
 }
 

@@ -19,8 +19,11 @@
 
 #include "framework/CString.h"
 #include "framework/Types.h"
+#include "framework/win/AppServices.h"
 
-class VU_CHostServices {
+// It is also the framework's application services (main window, safe owner,
+// wait cursor): the library installs the current host services there.
+class VU_CHostServices : public CAppServices {
 public:
     VU_CHostServices() = default;
     virtual ~VU_CHostServices() = default;
@@ -46,16 +49,16 @@ public:
     virtual BOOL ShowContextHelp(DWORD dwHelpContext, HWND hWndCaller);
 
     // Windows
-    virtual HWND GetMainWindow();
+    HWND GetMainWindow() override;
     // The window a dialog should be owned by: the top-level window of
     // hWndParent (or of the main window when null), then its last active
     // popup if that is enabled.
-    virtual HWND GetSafeOwner(HWND hWndParent);
+    HWND GetSafeOwner(HWND hWndParent) override;
     void SetMainWindow(HWND hWnd) { m_hWndMain = hWnd; }
 
     // Wait cursor; calls nest.
-    virtual void BeginWaitCursor();
-    virtual void EndWaitCursor();
+    void BeginWaitCursor() override;
+    void EndWaitCursor() override;
     int GetWaitCursorCount() const { return m_nWaitCursorCount; }
 
     // The default profile's key under HKEY_CURRENT_USER.

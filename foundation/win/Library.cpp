@@ -2,7 +2,9 @@
 
 #include <commctrl.h>
 
+#include "foundation/win/ChildReflector.h"
 #include "foundation/win/DumpFile.h"
+#include "foundation/win/HostServices.h"
 #include "framework/win/DumpContext.h"
 #include "framework/win/DynLinkLibrary.h"
 #include "framework/win/ThreadState.h"
@@ -28,6 +30,10 @@ void OnProcessAttach(HINSTANCE hInstance) {
     AfxInitExtensionModule(g_extensionModule, hInstance);
     InitCommonControlClasses();
     g_pResourceLink = new CDynLinkLibrary(g_extensionModule);
+    // The framework below reaches the host services and reflection only
+    // through what is installed here.
+    AfxSetAppServices(VuGetHostServices());
+    CChildReflector::Install();
 }
 
 void OnProcessDetach() {

@@ -1,16 +1,16 @@
 #include "framework/win/WinApp.h"
 
-#include "foundation/win/HostServices.h"
+#include "framework/win/AppServices.h"
 #include "framework/win/Wnd.h"
 
 void CWinApp::BeginWaitCursor() {
-    VuGetHostServices()->BeginWaitCursor();
+    AfxGetAppServices()->BeginWaitCursor();
 }
 void CWinApp::EndWaitCursor() {
-    VuGetHostServices()->EndWaitCursor();
+    AfxGetAppServices()->EndWaitCursor();
 }
 CWnd* CWinApp::GetMainWnd() {
-    return CWnd::FromHandle(VuGetHostServices()->GetMainWindow());
+    return CWnd::FromHandle(AfxGetAppServices()->GetMainWindow());
 }
 
 CWinApp* AfxGetApp() {

@@ -1,7 +1,7 @@
 #include "framework/win/Wnd.h"
 
-#include "foundation/win/HostServices.h"
-#include "framework/win/ChildReflector.h"
+#include "framework/win/AppServices.h"
+#include "framework/win/ParentWatch.h"
 #include "framework/win/DC.h"
 #include "framework/win/DynLinkLibrary.h"
 #include "framework/win/Font.h"
@@ -144,22 +144,36 @@ HWND CWnd::UnsubclassWindow() {
 
 // ---- parent notifications -----------------------------------------------
 
+namespace {
+CParentWatch* g_pParentWatch = nullptr;
+} // namespace
+
+CParentWatch* AfxGetParentWatch() {
+    return g_pParentWatch;
+}
+
+void AfxSetParentWatch(CParentWatch* pWatch) {
+    g_pParentWatch = pWatch;
+}
+
 void CWnd::WatchParent() {
     if (m_hWndWatchedParent != nullptr || m_hWnd == nullptr)
         return;
     if ((GetWindowLongPtrW(m_hWnd, GWL_STYLE) & WS_CHILD) == 0)
         return;
     HWND hWndParent = ::GetParent(m_hWnd);
-    if (hWndParent == nullptr)
+    CParentWatch* pWatch = AfxGetParentWatch();
+    if (hWndParent == nullptr || pWatch == nullptr)
         return;
-    CChildReflector::Acquire(hWndParent);
+    pWatch->Acquire(hWndParent);
     m_hWndWatchedParent = hWndParent;
 }
 
 void CWnd::StopWatchingParent() {
     if (m_hWndWatchedParent == nullptr)
         return;
-    CChildReflector::Release(m_hWndWatchedParent);
+    if (CParentWatch* pWatch = AfxGetParentWatch())
+        pWatch->Release(m_hWndWatchedParent);
     m_hWndWatchedParent = nullptr;
 }
 
@@ -452,7 +466,7 @@ CWnd* CWnd::GetDlgItem(int nID) const {
 
 CWnd* CWnd::GetSafeOwner(CWnd* pParent) {
     return FromHandle(
-        VuGetHostServices()->GetSafeOwner(pParent != nullptr ? pParent->m_hWnd : nullptr));
+        AfxGetAppServices()->GetSafeOwner(pParent != nullptr ? pParent->m_hWnd : nullptr));
 }
 
 BOOL CWnd::ShowWindow(int nCmdShow) {

@@ -1,4 +1,5 @@
-// Host programs in their own processes: one links vulib.dll, one loads it
+// Host programs in their own processes: two link vulib.dll (one of them uses
+// the wide interface as Win32 hosts write it), one loads it
 // with LoadLibraryW. Each prints its checks and exits with the number of
 // failures.
 #include <gtest/gtest.h>
@@ -40,6 +41,7 @@ long RunHost(const wchar_t* name) {
 TEST(HostProcessTest, HostsThatLinkOrLoadTheLibrary) {
     EXPECT_EQ(RunHost(L"vulib_host_linked.exe"), 0);
     EXPECT_EQ(RunHost(L"vulib_host_loadlibrary.exe"), 0);
+    EXPECT_EQ(RunHost(L"vulib_host_wide.exe"), 0);
 }
 
 } // namespace

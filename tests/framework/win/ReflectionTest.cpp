@@ -11,7 +11,7 @@
 #include <commctrl.h>
 
 #include "foundation/win/MessageFilter.h"
-#include "framework/win/ChildReflector.h"
+#include "foundation/win/ChildReflector.h"
 #include "framework/win/DC.h"
 #include "framework/win/ListBox.h"
 #include "support/TestWindow.h"

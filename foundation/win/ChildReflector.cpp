@@ -1,7 +1,8 @@
-#include "framework/win/ChildReflector.h"
+#include "foundation/win/ChildReflector.h"
 
 #include <unordered_map>
 
+#include "framework/win/ParentWatch.h"
 #include "framework/win/Wnd.h"
 
 namespace {
@@ -24,7 +25,19 @@ HWND FindChildById(HWND hWndParent, UINT nID) {
     return nullptr;
 }
 
+// The framework reports the parents of its controls through this.
+class ReflectorWatch final : public CParentWatch {
+public:
+    void Acquire(HWND hWndParent) override { CChildReflector::Acquire(hWndParent); }
+    void Release(HWND hWndParent) override { CChildReflector::Release(hWndParent); }
+};
+ReflectorWatch g_reflectorWatch;
+
 } // namespace
+
+void CChildReflector::Install() {
+    AfxSetParentWatch(&g_reflectorWatch);
+}
 
 CChildReflector::CChildReflector(HWND hWndParent) : m_hWndParent(hWndParent) {}
 

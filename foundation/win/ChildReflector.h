@@ -19,6 +19,9 @@ public:
     static void Acquire(HWND hWndParent);
     static void Release(HWND hWndParent);
     static BOOL IsWatching(HWND hWndParent);
+    // Makes the reflector the framework's parent watch; the library does so
+    // when it loads.
+    static void Install();
 
     // The child window that a parent notification is about, or null.
     static HWND ChildOfNotification(HWND hWndParent, UINT message, WPARAM wParam, LPARAM lParam);
