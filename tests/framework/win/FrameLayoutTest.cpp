@@ -1,6 +1,5 @@
 // The frame substrate on real windows: bars and the pane laid out through
-// WM_SIZEPARENT at several frame sizes, layout queries, idle updates, the
-// active view.
+// WM_SIZEPARENT, layout queries, idle updates, the active view.
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -14,8 +13,7 @@
 namespace {
 
 // A bar of a fixed thickness on one side; counts its idle updates.
-class FixedBar : public CControlBar {
-public:
+struct FixedBar : CControlBar {
     FixedBar(CWnd* parent, UINT id, DWORD align, int thickness, bool visible = true)
         : m_thickness(thickness) {
         SetBarStyle(align);
@@ -29,8 +27,6 @@ public:
     }
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL) override { updatedFor.push_back(pTarget); }
     std::vector<CFrameWnd*> updatedFor;
-
-private:
     int m_thickness;
 };
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "foundation/win/HostServices.h"
@@ -27,8 +28,7 @@ template <class Predicate> bool PumpUntil(Predicate done, DWORD timeoutMs = 3000
     return done();
 }
 
-// Runs a command line while pumping this thread's messages; its exit code,
-// or -1 when it could not start or did not end within timeoutMs.
+// Runs a command line while pumping; its exit code, -1 if it failed or hung.
 long RunPumping(std::wstring command, DWORD timeoutMs = 20000) {
     STARTUPINFOW si{};
     si.cb = sizeof(si);
@@ -49,7 +49,6 @@ bool XdoTool(const std::wstring& args) {
     return RunPumping(L"start.exe /wait /unix /usr/bin/xdotool " + args) == 0;
 }
 
-// Screen coordinates of a client point of hWnd, as xdotool arguments.
 std::wstring ScreenArgs(HWND hWnd, int x, int y) {
     POINT p{x, y};
     ClientToScreen(hWnd, &p);
@@ -62,18 +61,17 @@ const UINT kBarId = 0xE810;
 const wchar_t* const kChildEnv = L"VU_BAR_EXPECTED_SPLITTER";
 const int kUnset = -12345;
 
+const wchar_t* const kSection = AF_CTabBeamBar::kProfileSection;
+const wchar_t* const kEntry = AF_CTabBeamBar::kProfileEntry;
 int StoredPosition() {
-    return static_cast<int>(VuGetHostServices()->GetProfileInt(
-        AF_CTabBeamBar::kProfileSection, AF_CTabBeamBar::kProfileEntry, kUnset));
+    return static_cast<int>(VuGetHostServices()->GetProfileInt(kSection, kEntry, kUnset));
 }
 // Stores pos in the profile, or removes the entry for kUnset.
 void Store(int pos) {
     if (pos == kUnset)
-        VuGetHostServices()->WriteProfileString(AF_CTabBeamBar::kProfileSection,
-                                                AF_CTabBeamBar::kProfileEntry, nullptr);
+        VuGetHostServices()->WriteProfileString(kSection, kEntry, nullptr);
     else
-        VuGetHostServices()->WriteProfileInt(AF_CTabBeamBar::kProfileSection,
-                                             AF_CTabBeamBar::kProfileEntry, pos);
+        VuGetHostServices()->WriteProfileInt(kSection, kEntry, pos);
 }
 
 CRect RectIn(HWND parent, HWND child) {
@@ -179,29 +177,20 @@ TEST(TabBeamBarTest, RealDragWritesTheProfileAtEveryMove) {
     ASSERT_TRUE(PumpUntil([&] { return f.bar.GetSplitter()->IsTracking(); }))
         << "the splitter did not see the button go down";
 
-    struct Step {
-        const char* name;
-        int dx, expected;
-    } steps[] = {
-        {"right 40", 40, 340},
-        {"left 100", -100, 240},
-        {"far left stops at the pane", -400, m},
-        {"far right stops at right - m", 700, 601 - m},
-    };
-    for (const Step& s : steps) {
-        SCOPED_TRACE(s.name);
-        ASSERT_TRUE(XdoTool(L"mousemove_relative -- " + std::to_wstring(s.dx) + L" 0"));
-        PumpUntil([&] { return f.bar.GetSplitterPosition() == s.expected; });
-        EXPECT_EQ(s.expected, f.bar.GetSplitterPosition());
-        EXPECT_EQ(s.expected, StoredPosition()) << "profile after the move";
-        EXPECT_EQ(s.expected, RectIn(f.bar.m_hWnd, splitter).left);
+    // {dx, expected}: the last two stop at the panes.
+    for (auto [dx, expected] : {std::pair{40, 340}, {-100, 240}, {-400, m}, {700, 601 - m}}) {
+        SCOPED_TRACE(dx);
+        ASSERT_TRUE(XdoTool(L"mousemove_relative -- " + std::to_wstring(dx) + L" 0"));
+        PumpUntil([&] { return f.bar.GetSplitterPosition() == expected; });
+        EXPECT_EQ(expected, f.bar.GetSplitterPosition());
+        EXPECT_EQ(expected, StoredPosition()) << "profile after the move";
+        EXPECT_EQ(expected, RectIn(f.bar.m_hWnd, splitter).left);
     }
     // Back inside the range: the splitter follows the pointer at the grab offset.
     ASSERT_TRUE(XdoTool(L"mousemove_relative -- -250 0"));
     ASSERT_TRUE(XdoTool(L"mouseup 1"));
     PumpUntil([&] { return !f.bar.GetSplitter()->IsTracking(); });
-    EXPECT_FALSE(f.bar.GetSplitter()->IsTracking());
-    EXPECT_EQ(nullptr, ::GetCapture());
+    EXPECT_TRUE(!f.bar.GetSplitter()->IsTracking() && ::GetCapture() == nullptr);
     CPoint pointer;
     GetCursorPos(vu::AsPOINT(&pointer));
     f.bar.ScreenToClient(&pointer);

@@ -1,10 +1,9 @@
-// The tab window in a frame: its children, panes attached and switched with
-// their messages in order, the active view and the focus following the shown
-// pane, scroll and focus messages passed on, the right-button release handed
-// to the parent, and the divider painted and dragged.
+// The tab window in a frame: panes switched with their messages in order, what
+// it passes on to the shown pane and its parent, and the divider.
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "framework/win/FrameWnd.h"
@@ -18,16 +17,16 @@ using Log = std::vector<std::string>;
 
 // Logs "a+" / "a-" for view activation, "a attached 0", "a shown 2",
 // "a hidden 0" for the tab window's messages and "a scroll" for scrolling.
-class Pane : public CView {
-public:
+struct Pane : CView {
     Pane(const char* name, Log* log) : m_name(name), m_log(log) {}
     void OnActivateView(BOOL bActivate, CView* pActivate, CView* pDeactive) override {
         m_log->push_back(m_name + (bActivate ? "+" : "-"));
         CView::OnActivateView(bActivate, pActivate, pDeactive);
     }
     MSG lastScroll{};
+    std::string m_name;
+    Log* m_log;
 
-protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         const char* what = message == WM_VU_TABWND_ATTACHED      ? " attached "
                            : message == WM_VU_TABWND_ACTIVATED   ? " shown "
@@ -44,10 +43,6 @@ protected:
         }
         return CView::WindowProc(message, wParam, lParam);
     }
-
-private:
-    std::string m_name;
-    Log* m_log;
 };
 
 struct TabFrame {
@@ -71,9 +66,7 @@ struct TabFrame {
     }
     Log Take() {
         vutest::PumpPending();
-        Log taken;
-        taken.swap(log);
-        return taken;
+        return std::exchange(log, Log{});
     }
     CRect Child(int id) const {
         CRect r;
