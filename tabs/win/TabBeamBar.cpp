@@ -242,7 +242,9 @@ CSize AF_CTabBeamBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
                                   bHorz != FALSE, parentClient.Width());
 }
 
-void AF_CTabBeamBar::OnUpdateCmdUI(CFrameWnd*, BOOL) {}
+void AF_CTabBeamBar::OnUpdateCmdUI(CFrameWnd*, BOOL) {
+    m_TabBar.OnUpdateCmdUI();
+}
 
 // ---- messages ------------------------------------------------------------------------
 

@@ -11,8 +11,14 @@
 // scrolls its document; the host sets the scroll bar's range and position for
 // the active document through the SetHScroll... operations.
 //
-// Neither side of the splitter becomes narrower than 4 x SM_CXHTHUMB + 20
-// pixels (GetMinPaneWidth) while there is room for both.
+// A drag keeps both sides of the splitter at least 4 x SM_CXHTHUMB + 20
+// pixels wide (GetMinPaneWidth). A stored position below 0 counts as unset
+// and puts the splitter one minimum from the left; one that leaves less than
+// the minimum on the right is drawn pulled back, and kept as stored.
+//
+// The forwarding operations mean what the beam's do; like the beam's, an
+// index outside the tabs raises CInvalidArgException. The tab-data accessors
+// answer null, 0 or FALSE instead.
 //
 // Decisions:
 // - GetMenuTabIndex is the active tab: the beam activates a tab on a right
@@ -30,6 +36,9 @@
 #include "tabs/win/TabBeamScrollBar.h"
 #include "tabs/win/TabBeamSplitter.h"
 #include "tabs/win/TabExtra.h"
+
+// The beam as the bar holds it.
+using AF_CTabBar = Vu_CTabBeam;
 
 class AF_CTabBeamBar : public CControlBar {
 public:
@@ -95,7 +104,7 @@ public:
 
     // Overrideables
     CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
-    // The bar has no commands of its own to update.
+    // The bar has no commands of its own; the beam is asked to update.
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     // Adds WS_CLIPCHILDREN so the bar's background does not flicker over
     // its children.
@@ -121,7 +130,7 @@ protected:
     // Implementation
     void RefitTabTexts();
 
-    Vu_CTabBeam m_TabBar;             // the tabs
+    AF_CTabBar m_TabBar;              // the tabs
     AF_CTabBeamScrollBar m_ScrollBar; // the active document's scroll bar
     AF_CTabBeamSplitter m_Splitter;   // between the two
     BOOL m_bResize = FALSE;           // refit texts after insertions and deletions
