@@ -13,6 +13,7 @@
 #include "framework/win/FrameWnd.h"
 #include "framework/win/View.h"
 #include "tabs/win/TabBeamBar.h"
+#include "tabs/win/TabWnd.h"
 
 namespace gallery {
 namespace {
@@ -64,6 +65,48 @@ public:
     explicit LadderView(const Routine& routine) : m_routine(routine) {}
     int m_scrollX = 0;
 
+    // Scrolls as a scroll bar asks and moves the bar's thumb along.
+    void Scroll(UINT code, UINT pos, CScrollBar* bar) {
+        int x = m_scrollX;
+        switch (code) {
+        case SB_LINELEFT:
+            x -= 20;
+            break;
+        case SB_LINERIGHT:
+            x += 20;
+            break;
+        case SB_PAGELEFT:
+            x -= 200;
+            break;
+        case SB_PAGERIGHT:
+            x += 200;
+            break;
+        case SB_THUMBTRACK:
+        case SB_THUMBPOSITION:
+            x = static_cast<int>(pos);
+            break;
+        default:
+            return;
+        }
+        CRect client;
+        GetClientRect(&client);
+        m_scrollX = std::max(0, std::min(x, kLadderWidth - client.Width()));
+        if (bar != nullptr)
+            bar->SetScrollPos(m_scrollX);
+        Invalidate();
+    }
+    // The scroll bar's range for this view's width.
+    void SetUpScrollBar(CScrollBar* bar) {
+        CRect client;
+        GetClientRect(&client);
+        SCROLLINFO si{};
+        si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+        si.nMax = kLadderWidth - 1;
+        si.nPage = static_cast<UINT>(client.Width());
+        si.nPos = m_scrollX;
+        bar->SetScrollInfo(&si);
+    }
+
     void OnDraw(CDC* pDC) override {
         CRect client;
         GetClientRect(&client);
@@ -79,6 +122,23 @@ public:
             DrawRung(pDC, m_routine.rungs[i], static_cast<int>(i), left, right,
                      16 + kRungHeight * static_cast<int>(i));
         pDC->SelectObject(oldFont);
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_HSCROLL) {
+            Scroll(LOWORD(wParam), HIWORD(wParam),
+                   static_cast<CScrollBar*>(
+                       CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam))));
+            return 0;
+        }
+        if (message == WM_VU_TABWND_ACTIVATED) { // shown in a tab window
+            auto* tabs = dynamic_cast<Vu_CTabWnd*>(GetParent());
+            if (tabs != nullptr && tabs->GetScrollBarCtrl(SB_HORZ) != nullptr)
+                SetUpScrollBar(tabs->GetScrollBarCtrl(SB_HORZ));
+            return 0;
+        }
+        return CView::WindowProc(message, wParam, lParam);
     }
 
 private:
@@ -117,36 +177,9 @@ private:
 // What the bar's scroll bar does to the active routine: scroll its ladder.
 class RoutineExtra : public AF_CTabExtra {
 public:
-    RoutineExtra(LadderView* view, AF_CTabBeamBar* bar, DWORD uid)
-        : m_view(view), m_bar(bar), m_uid(uid) {}
-    void OnHScroll(UINT code, UINT pos, CScrollBar*) override {
-        int x = m_view->m_scrollX;
-        switch (code) {
-        case SB_LINELEFT:
-            x -= 20;
-            break;
-        case SB_LINERIGHT:
-            x += 20;
-            break;
-        case SB_PAGELEFT:
-            x -= 200;
-            break;
-        case SB_PAGERIGHT:
-            x += 200;
-            break;
-        case SB_THUMBTRACK:
-        case SB_THUMBPOSITION:
-            x = static_cast<int>(pos);
-            break;
-        default:
-            return;
-        }
-        CRect client;
-        m_view->GetClientRect(&client);
-        x = std::max(0, std::min(x, kLadderWidth - client.Width()));
-        m_view->m_scrollX = x;
-        m_bar->SetHScrollPos(x);
-        m_view->Invalidate();
+    RoutineExtra(LadderView* view, DWORD uid) : m_view(view), m_uid(uid) {}
+    void OnHScroll(UINT code, UINT pos, CScrollBar* bar) override {
+        m_view->Scroll(code, pos, bar);
     }
     void ScrollbarActivated() override { m_view->SetFocus(); }
     DWORD GetRoutineUID() const override { return m_uid; }
@@ -154,7 +187,6 @@ public:
 
 private:
     LadderView* m_view;
-    AF_CTabBeamBar* m_bar;
     DWORD m_uid;
 };
 
@@ -175,14 +207,7 @@ public:
         }
         RecalcLayout();
         SetActiveView(extra->View());
-        CRect client;
-        extra->View()->GetClientRect(&client);
-        SCROLLINFO si{};
-        si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-        si.nMax = kLadderWidth - 1;
-        si.nPage = static_cast<UINT>(client.Width());
-        si.nPos = extra->View()->m_scrollX;
-        bar.SetHScrollInfo(&si);
+        extra->View()->SetUpScrollBar(bar.GetHScrollBar());
     }
 
 protected:
@@ -216,8 +241,7 @@ void RoutineEditor(Context& c) {
                      AFX_IDW_PANE_FIRST + 1 + static_cast<UINT>(views.size()));
         views.push_back(view);
         const std::wstring title = std::wstring(routine.name) + (routine.uid == 1003 ? L"*" : L"");
-        frame.bar.InsertTab(FALSE, title.c_str(), new RoutineExtra(view, &frame.bar, routine.uid),
-                            TRUE);
+        frame.bar.InsertTab(FALSE, title.c_str(), new RoutineExtra(view, routine.uid), TRUE);
     }
     frame.bar.ShrinkTextForTab();
     frame.ShowRoutine(0);
@@ -251,8 +275,57 @@ void RoutineEditor(Context& c) {
     c.DestroyFrame(host);
 }
 
+// The same routines in a tab window: one pane shown at a time, the beam and
+// the window's own scroll bars along the bottom and the right.
+void TabWindow(Context& c) {
+    const int width = 640, height = 300;
+    HWND host = c.CreateFrame(L"VuLib gallery - tab window", width, height);
+    CFrameWnd frame;
+    c.Check(frame.Create(nullptr, L"tab frame", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
+                         CRect(0, 0, width, height), CWnd::FromHandle(host)) != FALSE,
+            "creating the frame");
+    Vu_CTabWnd tabs;
+    c.Check(tabs.Create(&frame, WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL) != FALSE,
+            "creating the tab window");
+    frame.RecalcLayout();
+    std::vector<LadderView*> views;
+    for (size_t i = 0; i < 3; ++i) {
+        const Routine& routine = Routines()[i];
+        auto* view = new LadderView(routine);
+        view->Create(nullptr, routine.name, WS_CHILD | WS_VISIBLE, CRect(0, 0, 10, 10), &tabs,
+                     static_cast<UINT>(i + 1));
+        views.push_back(view);
+        tabs.AttachWnd(view, routine.name);
+    }
+    views[0]->SetUpScrollBar(tabs.GetScrollBarCtrl(SB_HORZ));
+    c.Pump();
+
+    // A click on the third tab, then the divider dragged 80 pixels to the right.
+    Vu_CTabBeam* beam = tabs.GetTabBeam();
+    c.Click(beam->m_hWnd, beam->CalcTabMidpoint(2) + beam->GetOverlap(), 8);
+    c.Check(tabs.GetActiveWnd() == views[2], "a click on a tab shows its pane");
+    CRect beamRect;
+    beam->GetWindowRect(&beamRect);
+    tabs.ScreenToClient(&beamRect);
+    const int y = beamRect.CenterPoint().y;
+    SendMessageW(tabs.m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(beamRect.right + 2, y));
+    SendMessageW(tabs.m_hWnd, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(beamRect.right + 2 + 80, y));
+    SendMessageW(tabs.m_hWnd, WM_LBUTTONUP, 0, MAKELPARAM(beamRect.right + 2 + 80, y));
+    c.Check(tabs.GetDividerPos() == beamRect.right + 80, "the divider moved 80 pixels right");
+    SendMessageW(tabs.GetScrollBarCtrl(SB_HORZ)->m_hWnd, WM_KEYDOWN, VK_RIGHT, 0);
+    c.Pump();
+    c.Check(views[2]->m_scrollX == 20, "the window's scroll bar scrolls the shown pane");
+
+    c.SaveClientPng(host, L"tab_window");
+    frame.DestroyWindow();
+    for (LadderView* view : views)
+        delete view;
+    c.DestroyFrame(host);
+}
+
 } // namespace
 } // namespace gallery
 
 VU_GALLERY_EXHIBIT("routine editor: tab beam bar with splitter and scroll bar",
                    gallery::RoutineEditor);
+VU_GALLERY_EXHIBIT("tab window: panes, beam, divider and scroll bars", gallery::TabWindow);
