@@ -203,9 +203,11 @@ CRect Vu_CTabBeam::GetTabClientRect() const {
     return client;
 }
 
+// The fitting resizes a tab per shortened character: one invalidation until
+// the next paint is enough (each costs a trip to the window server).
 void Vu_CTabBeam::InvalidateTabs() {
-    if (m_hWnd != nullptr)
-        ::InvalidateRect(m_hWnd, nullptr, FALSE);
+    if (m_hWnd != nullptr && !m_bWholeInvalid)
+        m_bWholeInvalid = ::InvalidateRect(m_hWnd, nullptr, FALSE) != FALSE;
 }
 
 void Vu_CTabBeam::ScrollTabArea(int dx) {
@@ -575,6 +577,7 @@ DROPEFFECT Vu_CTabBreamDropTarget::OnDragScroll(CWnd* pWnd, DWORD dwKeyState, CP
 // ---- painting --------------------------------------------------------------------------
 
 void Vu_CTabBeam::OnPaint() {
+    m_bWholeInvalid = false;
     CPaintDC paintDC(this);
     CRect clip;
     paintDC.GetClipBox(&clip);

@@ -189,6 +189,7 @@ protected:
     Vu_CTabBreamDropTarget m_dropTarget;
     VU_CTabTextWidthCache m_widthCache;
     bool m_bCreatedByClassHook = false;
+    bool m_bWholeInvalid = false; // invalidated since the last paint
 
     static int ms_nLastToolTipTab; // process-wide
 };

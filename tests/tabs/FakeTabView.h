@@ -20,7 +20,6 @@ namespace vutest {
 
 struct FakeTabView : VU_ATabBeamView {
     int MeasureTabText(vu::StringView text, bool bBold) override {
-        ++measured;
         auto known = fixed.find(vu::String(text));
         if (known != fixed.end())
             return known->second;
@@ -29,18 +28,17 @@ struct FakeTabView : VU_ATabBeamView {
     CRect GetTabClientRect() const override { return client; }
     void ScrollTabArea(int dx) override { scrolls.push_back(dx); }
     void TabSelChanged(int index) override { selChanged.push_back(index); }
-    void TabMoved(int index) override { moved.push_back(index); }
 
     CRect client{0, 0, 400, 20};
     std::map<vu::String, int> fixed; // texts of a given width
-    int measured = 0;
-    std::vector<int> scrolls, selChanged, moved;
+    std::vector<int> scrolls, selChanged;
 };
 
 // A model with a 20-pixel scroll area (tabs start at 21) over a fake view.
 struct FakeBeam : VU_CTabBeamModel {
     FakeBeam() : VU_CTabBeamModel(&view) { SetScrollArea(20, true); }
     using VU_CTabBeamModel::m_nFirstVisible;
+    void SetTruncatedForTest(bool bTruncated) { m_bTruncated = bTruncated; }
     // Appends tabs of the given widths that keep them when re-measured
     // (text "t<i>", i < 10).
     void AddWidths(std::initializer_list<int> widths) {

@@ -2,6 +2,7 @@
 // A tab beam on a visible top-level plain window that records what it is
 // sent (kept for the whole run: Wine waits for a window manager whenever a
 // visible top-level window goes away), with helpers for real messages.
+#include "framework/win/ClientDC.h"
 #include "support/TestWindow.h"
 #include "tabs/win/TabBeam.h"
 
@@ -18,6 +19,9 @@ struct TestBeam : Vu_CTabBeam {
     using Vu_CTabBeam::m_nAutoScrollTimer;
     using Vu_CTabBeam::m_nFirstVisible;
     using Vu_CTabBeam::m_toolTip;
+    int MeasureTabTextForTest(const wchar_t* text, bool bBold) {
+        return MeasureTabText(vu::StringView(text), bBold);
+    }
 };
 
 inline vutest::PlainWindow& Host() {
@@ -27,10 +31,6 @@ inline vutest::PlainWindow& Host() {
         return window;
     }();
     return *host;
-}
-
-inline LPARAM At(int x, int y) {
-    return MAKELPARAM(x, y);
 }
 
 class BeamTest : public ::testing::Test {
@@ -73,26 +73,13 @@ protected:
     std::unique_ptr<TestBeam> beam;
 };
 
-// The beam's client area drawn through WM_PRINTCLIENT into a bitmap.
-class Picture {
-public:
-    explicit Picture(HWND hWnd) {
-        GetClientRect(hWnd, &m_rect);
-        HDC screen = GetDC(nullptr);
-        m_dc = CreateCompatibleDC(screen);
-        m_bitmap = CreateCompatibleBitmap(screen, m_rect.right, m_rect.bottom);
-        ReleaseDC(nullptr, screen);
-        m_old = SelectObject(m_dc, m_bitmap);
-        SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(m_dc), PRF_CLIENT);
+// A window's pixels as it painted them.
+struct Picture {
+    explicit Picture(HWND hWnd) : dc(CWnd::FromHandle(hWnd)) {
+        RedrawWindow(hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
-    ~Picture() {
-        SelectObject(m_dc, m_old);
-        DeleteObject(m_bitmap);
-        DeleteDC(m_dc);
-    }
-    COLORREF At(int x, int y) const { return GetPixel(m_dc, x, y); }
-    // Pixels of colour in the rectangle.
-    int Count(const RECT& r, COLORREF colour) const {
+    COLORREF At(int x, int y) const { return GetPixel(dc, x, y); }
+    int Count(const RECT& r, COLORREF colour) const { // pixels of colour in r
         int n = 0;
         for (int y = r.top; y < r.bottom; ++y)
             for (int x = r.left; x < r.right; ++x)
@@ -100,11 +87,7 @@ public:
         return n;
     }
 
-private:
-    RECT m_rect{};
-    HDC m_dc = nullptr;
-    HBITMAP m_bitmap = nullptr;
-    HGDIOBJ m_old = nullptr;
+    CClientDC dc;
 };
 
 } // namespace tabtest

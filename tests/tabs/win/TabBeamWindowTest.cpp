@@ -1,7 +1,9 @@
-// The beam's window with real messages: creation, painting read back,
-// clicks with modifiers, the scroll bar and tooltips.
+// The beam's window with real messages: creation, painting read back
+// (with a tab's bitmap and the library's bitmap object), clicks with
+// modifiers, the scroll bar and tooltips.
 #include "TabBeamTestHost.h"
 
+#include "foundation/win/Bitmap.h"
 #include "foundation/win/HostServices.h"
 
 #include <commctrl.h>
@@ -20,12 +22,6 @@ std::string Marks(const Vu_CTabBeam& beam) {
 }
 
 TEST_F(BeamTest, CreationFromCodeAndFromTheWindowClass) {
-    EXPECT_EQ(WS_CHILD | WS_CLIPSIBLINGS,
-              GetWindowLongW(beam->m_hWnd, GWL_STYLE) & (WS_CHILD | WS_CLIPSIBLINGS));
-    RECT r{};
-    GetClientRect(beam->m_hWnd, &r);
-    EXPECT_EQ(beam->GetHeight(), r.bottom);
-    EXPECT_GT(beam->GetHeight(), 10);
     HWND bar = GetDlgItem(beam->m_hWnd, Vu_CTabBeam::kScrollBarId);
     ASSERT_NE(nullptr, bar);
     EXPECT_FALSE(IsWindowEnabled(bar));
@@ -45,41 +41,32 @@ TEST_F(BeamTest, CreationFromCodeAndFromTheWindowClass) {
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(made));
 }
 
-TEST_F(BeamTest, ActiveTabIsDrawnOnTopAndOpenToTheDocument) {
-    AddTabs({L"Main", L"Routine", L"Other"});
+TEST_F(BeamTest, PaintingShowsTheActiveTabOnTopAndShortenedTexts) {
+    AddTabs({L"MainRoutine", L"Conveyor_Control*", L"AlarmHandling", L"Diagnostics"});
     beam->SetCurSel(1);
-    Picture picture(beam->m_hWnd);
     int h = beam->GetHeight(), ov = beam->GetOverlap();
     int x1 = beam->CalcTabOffset(1), x2 = beam->CalcTabOffset(2);
     COLORREF window = GetSysColor(COLOR_WINDOW), face = GetSysColor(COLOR_3DFACE);
-    EXPECT_EQ(window, picture.At(x1 + ov + 5, 0)); // the active tab breaks the edge
-    EXPECT_EQ(RGB(0, 0, 0), picture.At(beam->CalcTabOffset(0) + ov + 5, 0));
-    // Where tabs 1 and 2 overlap, tab 1 (active, drawn last) shows.
-    EXPECT_EQ(window, picture.At(x2 + 2, 2));
-    EXPECT_EQ(face, picture.At(x2 + ov + 4, h / 2));
-    // Text ink inside the active tab; background right of the last tab.
-    RECT text{x1 + ov + 2, 1, x1 + ov + beam->GetTab(1)->m_nWidth - 2, h - 2};
-    EXPECT_GT(picture.Count(text, RGB(0, 0, 0)), 10);
-    EXPECT_EQ(GetSysColor(COLOR_SCROLLBAR), picture.At(590, h / 2));
-}
-
-TEST_F(BeamTest, NarrowBeamShowsShortenedTextsThatFit) {
-    AddTabs({L"MainRoutine", L"Conveyor_Control*", L"AlarmHandling", L"Diagnostics"});
+    {
+        Picture picture(beam->m_hWnd);
+        EXPECT_EQ(window, picture.At(x1 + ov + 5, 0)); // the active tab breaks the edge
+        EXPECT_EQ(RGB(0, 0, 0), picture.At(beam->CalcTabOffset(0) + ov + 5, 0));
+        EXPECT_EQ(window, picture.At(x2 + 2, 2)); // over tab 2 where they overlap
+        EXPECT_EQ(face, picture.At(x2 + ov + 4, h / 2));
+        RECT text{x1 + ov + 2, 1, x1 + ov + beam->GetTab(1)->m_nWidth - 2, h - 2};
+        EXPECT_GT(picture.Count(text, RGB(0, 0, 0)), 10); // ink
+        EXPECT_EQ(GetSysColor(COLOR_SCROLLBAR), picture.At(590, h / 2));
+    }
     Resize(340);
     beam->DetermineTextForResizeRoutine();
     EXPECT_TRUE(beam->IsTruncated());
-    EXPECT_EQ(CString(L"MainRoutine"), beam->GetTabText(0));
-    EXPECT_EQ(L"...*", std::wstring(beam->GetTab(1)->m_strLine1.View())
-                           .substr(beam->GetTab(1)->m_strLine1.GetLength() - 4));
+    EXPECT_EQ(L"...*", std::wstring(beam->GetTab(1)->m_strLine1.Right(4).View()));
     // The last tab ends inside the beam (only its right slant may be cut).
-    int right = beam->CalcTabOffset(3) + beam->GetTab(3)->m_nWidth + beam->GetOverlap();
+    int right = beam->CalcTabOffset(3) + beam->GetTab(3)->m_nWidth + ov;
     EXPECT_LE(right, 340);
     Picture picture(beam->m_hWnd);
-    RECT last{right - beam->GetTab(3)->m_nWidth + 4, 1, right - 4, beam->GetHeight() - 2};
+    RECT last{right - beam->GetTab(3)->m_nWidth + 4, 1, right - 4, h - 2};
     EXPECT_GT(picture.Count(last, RGB(0, 0, 0)), 10);
-    Resize(600); // 15 pixels or more to spare: full texts again
-    beam->DetermineTextForResizeRoutine();
-    EXPECT_EQ(CString(L"Conveyor_Control*"), beam->GetTab(1)->m_strLine1);
 }
 
 TEST_F(BeamTest, ClicksWithModifiersAndTheMessagesToTheOwner) {
@@ -91,28 +78,27 @@ TEST_F(BeamTest, ClicksWithModifiersAndTheMessagesToTheOwner) {
         int tab;
         const char* marks;
         int active;
-        UINT sent;
-        long long wParam;
+        UINT sent; // the message to the owner, with wParam active (0: none)
     } rows[] = {
-        {"left click activates", WM_LBUTTONDOWN, 0, 2, "0000", 2, WM_VU_TAB_SELCHANGED, 2},
-        {"shift+left marks up to the active tab", WM_LBUTTONDOWN, MK_SHIFT, 0, "1100", 2, 0, 0},
-        {"ctrl+right toggles one tab", WM_RBUTTONDOWN, MK_CONTROL, 3, "1101", 2, 0, 0},
-        {"ctrl+right again untoggles it", WM_RBUTTONDOWN, MK_CONTROL, 3, "1100", 2, 0, 0},
-        {"a marked tab keeps the marks", WM_LBUTTONDOWN, 0, 1, "1100", 1, WM_VU_TAB_SELCHANGED, 1},
-        {"plain right activates and clears", WM_RBUTTONDOWN, 0, 3, "0000", 3, WM_VU_TAB_SELCHANGED,
-         3},
-        {"double click reports the active tab", WM_LBUTTONDBLCLK, 0, 0, "0000", 3, WM_VU_TAB_DBLCLK,
-         3},
+        {"left click activates", WM_LBUTTONDOWN, 0, 2, "0000", 2, WM_VU_TAB_SELCHANGED},
+        {"shift+left marks up to the active tab", WM_LBUTTONDOWN, MK_SHIFT, 0, "1100", 2, 0},
+        {"ctrl+right toggles one tab", WM_RBUTTONDOWN, MK_CONTROL, 3, "1101", 2, 0},
+        {"right on a marked tab keeps the marks", WM_RBUTTONDOWN, 0, 3, "1101", 3,
+         WM_VU_TAB_SELCHANGED},
+        {"left on an unmarked tab clears them", WM_LBUTTONDOWN, 0, 2, "0000", 2,
+         WM_VU_TAB_SELCHANGED},
+        {"double click reports the active tab", WM_LBUTTONDBLCLK, 0, 0, "0000", 2,
+         WM_VU_TAB_DBLCLK},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
         Host().received.clear();
         CPoint p = Middle(r.tab);
-        SendMessageW(beam->m_hWnd, r.message, r.keys, At(p.x, p.y));
+        SendMessageW(beam->m_hWnd, r.message, r.keys, MAKELPARAM(p.x, p.y));
         EXPECT_EQ(r.marks, Marks(*beam));
         EXPECT_EQ(r.active, beam->GetCurSel());
         if (r.sent != 0)
-            EXPECT_EQ(r.wParam, LastSent(r.sent));
+            EXPECT_EQ(r.active, LastSent(r.sent));
         else
             EXPECT_EQ(0, Host().Count(WM_VU_TAB_SELCHANGED) + Host().Count(WM_VU_TAB_DBLCLK));
     }
@@ -128,16 +114,12 @@ TEST_F(BeamTest, ScrollBarStepsOneTabAndIsEnabledOnlyWhenTabsOverflow) {
     Resize(300);
     RedrawWindow(beam->m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     EXPECT_TRUE(IsWindowEnabled(bar));
-    struct Row {
-        WPARAM code;
-        LPARAM from;
-        int first;
-    } rows[] = {{SB_LINERIGHT, 1, 1}, {SB_RIGHT, 1, 2},     {SB_THUMBTRACK, 1, 2},
-                {SB_LINELEFT, 1, 1},  {SB_LINERIGHT, 0, 1}, {SB_LEFT, 1, 0}};
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.code);
-        SendMessageW(beam->m_hWnd, WM_HSCROLL, r.code, r.from ? reinterpret_cast<LPARAM>(bar) : 0);
-        EXPECT_EQ(r.first, beam->GetFirstVisible());
+    // code, from the bar (else from no control), first visible after it
+    int rows[][3] = {{SB_LINERIGHT, 1, 1}, {SB_RIGHT, 1, 2},     {SB_THUMBTRACK, 1, 2},
+                     {SB_LINELEFT, 1, 1},  {SB_LINERIGHT, 0, 1}, {SB_LEFT, 1, 0}};
+    for (const auto& r : rows) {
+        SendMessageW(beam->m_hWnd, WM_HSCROLL, r[0], r[1] ? reinterpret_cast<LPARAM>(bar) : 0);
+        EXPECT_EQ(r[2], beam->GetFirstVisible()) << r[0];
     }
 }
 
@@ -167,21 +149,57 @@ TEST_F(BeamTest, ToolTipTextComesFromTheTopLevelWindow) {
         return std::wstring(text);
     };
     CPoint p = Middle(1);
-    SendMessageW(beam->m_hWnd, WM_MOUSEMOVE, 0, At(p.x, p.y));
+    SendMessageW(beam->m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(p.x, p.y));
     ASSERT_EQ(1u, asked.size());
     EXPECT_EQ(1u, asked[0].idFrom);
     EXPECT_EQ(Host().hwnd, asked[0].hwndFrom);
     EXPECT_EQ(L"Routine: scans the conveyor", tipText());
-    SendMessageW(beam->m_hWnd, WM_MOUSEMOVE, 0, At(p.x + 1, p.y)); // same tab: not asked again
-    EXPECT_EQ(1u, asked.size());
     p = Middle(2);
-    SendMessageW(beam->m_hWnd, WM_MOUSEMOVE, 0, At(p.x, p.y));
+    SendMessageW(beam->m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(p.x, p.y));
     EXPECT_EQ(L"from the buffer", tipText());
     SendMessageW(beam->m_hWnd, WM_MOUSELEAVE, 0, 0);
     EXPECT_EQ(0, SendMessageW(beam->m_toolTip.m_hWnd, TTM_GETTOOLCOUNT, 0, 0));
     vutest::PumpPending();
     EXPECT_EQ(0xE001, LastSent(0x0362)); // the status bar's idle text
     VuGetHostServices()->SetMainWindow(nullptr);
+}
+
+const COLORREF kKey = Vu_CTabBeam::kBitmapKey, kRed = RGB(255, 0, 0);
+
+// 12 x 12 pixels of the key colour around a red 4 x 4 square.
+HBITMAP KeyedBitmap() {
+    HDC screen = GetDC(nullptr), dc = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, 12, 12);
+    ReleaseDC(nullptr, screen);
+    HGDIOBJ old = SelectObject(dc, bitmap);
+    for (int i = 0; i < 144; ++i)
+        SetPixel(dc, i % 12, i / 12, (i % 12) / 4 == 1 && (i / 12) / 4 == 1 ? kRed : kKey);
+    SelectObject(dc, old);
+    DeleteDC(dc);
+    return bitmap;
+}
+
+// A tab's bitmap, through the library's bitmap object.
+TEST_F(BeamTest, TabBitmapSitsLeftOfTheTextWithoutItsKeyColour) {
+    VU_CBitmap loaded;
+    EXPECT_FALSE(loaded.LoadBitmap(60999)); // no such resource
+    EXPECT_TRUE(loaded.LoadBitmap(2336));   // the library's tree images, through the chain
+    AddTabs({L"Main"});
+    beam->InsertTab(FALSE, L"Routine", nullptr, 0, -1, nullptr, KeyedBitmap());
+    EXPECT_EQ(beam->MeasureTabTextForTest(L"Routine", false) + 12 + beam->GetOverlap() + 10,
+              beam->GetTab(1)->m_nWidth);
+    Picture picture(beam->m_hWnd);
+    int x = beam->CalcTabOffset(1) + beam->GetOverlap();
+    RECT image{x, 0, x + 12, beam->GetHeight()};
+    EXPECT_EQ(16, picture.Count(image, kRed));
+    EXPECT_EQ(0, picture.Count(image, kKey));
+    VU_CBitmap& own = beam->GetTab(1)->m_bitmap;
+    EXPECT_TRUE(own.Draw(&picture.dc, CRect(0, 0, 24, 24))); // stretched twice
+    EXPECT_EQ(kRed, picture.At(9, 9));
+    EXPECT_EQ(kKey, picture.At(7, 7));
+    HGDIOBJ handle = own.Detach();
+    EXPECT_NE(0, GetObjectType(handle)); // given up, not deleted
+    DeleteObject(handle);
 }
 
 } // namespace
