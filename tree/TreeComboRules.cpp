@@ -1,0 +1,54 @@
+#include "tree/TreeComboRules.h"
+
+#include "text/XmlWriter.h"
+#include "tree/TreeListGeometry.h"
+
+namespace vu::treecombo {
+
+DropClick ClassifyDropClick(bool onScrollBar, bool onRow, int x, int level, bool hasChildren,
+                            bool selectable) {
+    if (onScrollBar || !onRow)
+        return DropClick::Default;
+    if (hasChildren && treelist::IsOnExpandButton(x, level, 0))
+        return DropClick::Toggle;
+    return selectable ? DropClick::Default : DropClick::Ignore;
+}
+
+CloseUp DecideCloseUp(int selection, bool allowed, int lastAccepted) {
+    if (!allowed && lastAccepted != -1)
+        return {lastAccepted, lastAccepted};
+    return {-1, selection};
+}
+
+HidingPlace HidingPlaceFor(unsigned major, unsigned minor) {
+    if (major < 5 || (major == 5 && minor < 1))
+        return {false, 0, 0};
+    if (minor == 2)
+        return {true, 0, 0};
+    return {true, -1000, -1000};
+}
+
+bool MustShowSelection(bool useTree, bool dropped, std::u16string_view text,
+                       std::u16string_view selectionText) {
+    return useTree && dropped && text != selectionText;
+}
+
+AF_GString ComboXml(const AF_GString* editXml, std::u16string_view currentText,
+                    const AF_GString& treeListXml) {
+    VU_CXmlWriter writer;
+    writer.WriteXMLDeclaration();
+    writer.WriteStartElement(AF_GString(u"HbxComboBox"));
+    writer.CloseOpenedElement();
+    if (editXml != nullptr) {
+        writer.WriteRaw(*editXml);
+    } else {
+        writer.WriteStartElement(AF_GString(u"Text"));
+        writer.WriteElementString(AF_GString(std::u16string(currentText)));
+        writer.WriteEndElement();
+    }
+    writer.WriteRaw(treeListXml);
+    writer.WriteEndElement();
+    return writer.ToString();
+}
+
+} // namespace vu::treecombo
