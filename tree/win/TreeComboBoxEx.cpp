@@ -106,8 +106,10 @@ void AF_CTreeComboBoxEx::UseTree(int on) {
     const UINT flags = SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
     if (place.move)
         SetWindowPos(HWND(nullptr), place.x, place.y, 0, 0, flags);
+    m_openingUnseen = true; // this close-up is no choice of the user's
     SendMessage(CB_SHOWDROPDOWN, TRUE);
     SendMessage(CB_SHOWDROPDOWN, FALSE);
+    m_openingUnseen = false;
     if (place.move)
         SetWindowPos(HWND(nullptr), home.left, home.top, 0, 0, flags);
     if (!m_listSubclassed) {
@@ -511,6 +513,8 @@ void AF_CTreeComboBoxEx::OnDropDown() {
 }
 
 void AF_CTreeComboBoxEx::OnCloseUp() {
+    if (m_openingUnseen)
+        return;
     HandleOnCloseUp();
     PostToParent(CBN_SELENDOK);
 }

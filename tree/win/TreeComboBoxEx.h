@@ -150,4 +150,5 @@ private:
     int m_lastAccepted = -1; // selection accepted at the last close-up
     int m_nextFlatHandle = 1;
     bool m_listSubclassed = false;
+    bool m_openingUnseen = false; // UseTree's own opening and closing
 };

@@ -5,6 +5,7 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <cstring>
 
 using vu::treecombo::DropClick;
@@ -35,10 +36,35 @@ void VU_CTreeComboBoxListBox::Expand(int row) {
     VU_CTreeListBox::Expand(row);
     if (!opens)
         return;
+    FitDropDownToRows();
     // Bring the last new child in, but never push the parent off the top.
     ScrollItemIntoView(row + node->ComputeNumberOfExpandedNodesShowing());
     if (GetTopIndex() > row)
         SetTopIndex(row);
+}
+
+void VU_CTreeComboBoxListBox::Collapse(int row) {
+    VU_CTreeListBox::Collapse(row);
+    FitDropDownToRows();
+}
+
+void VU_CTreeComboBoxListBox::FitDropDownToRows() {
+    // The drop-down was sized to the rows it opened with; rows that a toggle
+    // adds must stay inside it, up to the height the combo was given.
+    if (m_combo == nullptr || m_hWnd == nullptr || !m_combo->GetDroppedState())
+        return;
+    CRect dropped;
+    m_combo->GetDroppedControlRect(&dropped);
+    RECT window{}, client{};
+    ::GetWindowRect(m_hWnd, &window);
+    ::GetClientRect(m_hWnd, &client);
+    const int frame = (window.bottom - window.top) - client.bottom;
+    const int itemHeight = static_cast<int>(::SendMessageW(m_hWnd, LB_GETITEMHEIGHT, 0, 0));
+    const int wanted = std::max(1, GetRowCount()) * itemHeight + frame;
+    const int height = std::min(wanted, std::max(dropped.Height(), itemHeight + frame));
+    if (height != window.bottom - window.top)
+        ::SetWindowPos(m_hWnd, nullptr, 0, 0, window.right - window.left, height,
+                       SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 BOOL VU_CTreeComboBoxListBox::HasFocus() {
@@ -95,16 +121,25 @@ LRESULT VU_CTreeComboBoxListBox::OnDropLButtonDown(WPARAM wParam, LPARAM lParam)
             Collapse(row);
         else
             Expand(row);
+        m_pressSwallowed = true;
         return 0;
     case DropClick::Ignore:
+        m_pressSwallowed = true;
         return 0;
     case DropClick::Default:
         break;
     }
+    m_pressSwallowed = false;
     return VU_CTreeListBox::WindowProc(WM_LBUTTONDOWN, wParam, lParam);
 }
 
 LRESULT VU_CTreeComboBoxListBox::OnDropLButtonUp(WPARAM wParam, LPARAM lParam) {
+    // The release of a press that toggled or was ignored chooses nothing
+    // (some list boxes would report a selection change for it and close).
+    if (m_pressSwallowed) {
+        m_pressSwallowed = false;
+        return 0;
+    }
     m_closingClick = true;
     const LRESULT result = VU_CTreeListBox::WindowProc(WM_LBUTTONUP, wParam, lParam);
     m_closingClick = false;

@@ -28,6 +28,8 @@ public:
     // Shows as many of the new children as the drop-down holds, keeping the
     // parent on the page.
     void Expand(int row) override;
+    // Both also fit the dropped-down list to its rows.
+    void Collapse(int row) override;
     // The list itself never takes the focus: it counts as focused while its
     // combo (or the combo's edit field) has it.
     BOOL HasFocus() override;
@@ -48,6 +50,9 @@ protected:
     LRESULT OnDropMouseMove(WPARAM wParam, LPARAM lParam);
 
 private:
+    void FitDropDownToRows();
+
     AF_CTreeComboBoxEx* m_combo = nullptr; // not owned
     bool m_closingClick = false;           // true only while a button release is handled
+    bool m_pressSwallowed = false;         // the last press toggled or was ignored
 };
