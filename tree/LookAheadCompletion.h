@@ -17,8 +17,7 @@
 //   "Text" (the whole text shown), "SelStart" and "SelEnd" (the selection in
 //   UTF-16 units) and "Completion" (the selected tail proposed by the look-up,
 //   empty when the selection does not run to the end or is empty).
-#include <string>
-#include <string_view>
+#include "framework/Char.h"
 
 #include <optional>
 
@@ -28,23 +27,23 @@ class VU_CLookAheadCompletion {
 public:
     // What the field shows after a completion: the text and its selection.
     struct Result {
-        std::u16string text;
+        vu::String text;
         int selStart = 0;
         int selEnd = 0;
     };
 
     // Whether a character just typed should start a look-up, given the
     // field's text length and selection after the character went in.
-    static bool ShouldLookUp(char16_t typed, int selStart, int selEnd, int length);
+    static bool ShouldLookUp(WCHAR typed, int selStart, int selEnd, int length);
 
     // The field after `typed` was completed to `item`; nothing when `item`
     // does not extend `typed` (case-blind).
-    static std::optional<Result> Complete(std::u16string_view typed, std::u16string_view item);
+    static std::optional<Result> Complete(vu::StringView typed, vu::StringView item);
 
     // The selected tail proposed by a completion: the text from selStart when
     // the selection is not empty and runs to the end; else empty.
-    static std::u16string_view ProposedTail(std::u16string_view text, int selStart, int selEnd);
+    static vu::StringView ProposedTail(vu::StringView text, int selStart, int selEnd);
 
     // Writes the "HbxLookAheadEdit" element described above.
-    static bool WriteXml(VU_CXmlWriter& writer, std::u16string_view text, int selStart, int selEnd);
+    static bool WriteXml(VU_CXmlWriter& writer, vu::StringView text, int selStart, int selEnd);
 };

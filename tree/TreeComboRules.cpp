@@ -28,22 +28,22 @@ HidingPlace HidingPlaceFor(unsigned major, unsigned minor) {
     return {true, -1000, -1000};
 }
 
-bool MustShowSelection(bool useTree, bool dropped, std::u16string_view text,
-                       std::u16string_view selectionText) {
+bool MustShowSelection(bool useTree, bool dropped, vu::StringView text,
+                       vu::StringView selectionText) {
     return useTree && dropped && text != selectionText;
 }
 
-AF_GString ComboXml(const AF_GString* editXml, std::u16string_view currentText,
+AF_GString ComboXml(const AF_GString* editXml, vu::StringView currentText,
                     const AF_GString& treeListXml) {
     VU_CXmlWriter writer;
     writer.WriteXMLDeclaration();
-    writer.WriteStartElement(AF_GString(u"HbxComboBox"));
+    writer.WriteStartElement(AF_GString(VU_T("HbxComboBox")));
     writer.CloseOpenedElement();
     if (editXml != nullptr) {
         writer.WriteRaw(*editXml);
     } else {
-        writer.WriteStartElement(AF_GString(u"Text"));
-        writer.WriteElementString(AF_GString(std::u16string(currentText)));
+        writer.WriteStartElement(AF_GString(VU_T("Text")));
+        writer.WriteElementString(AF_GString(vu::String(currentText)));
         writer.WriteEndElement();
     }
     writer.WriteRaw(treeListXml);

@@ -4,8 +4,7 @@
 // the combo hides while its list is created, and when the edit field must
 // show the selected row's text. The window code asks these and acts.
 #include "foundation/GString.h"
-#include <string>
-#include <string_view>
+#include "framework/Char.h"
 
 namespace vu::treecombo {
 
@@ -57,8 +56,8 @@ HidingPlace HidingPlaceFor(unsigned major, unsigned minor);
 // True when a text about to be set must be replaced by the selected row's
 // text: with the tree in use and the list dropped down, the field always
 // shows the selected row.
-bool MustShowSelection(bool useTree, bool dropped, std::u16string_view text,
-                       std::u16string_view selectionText);
+bool MustShowSelection(bool useTree, bool dropped, vu::StringView text,
+                       vu::StringView selectionText);
 
 // ---- XML ------------------------------------------------------------------------
 
@@ -66,7 +65,7 @@ bool MustShowSelection(bool useTree, bool dropped, std::u16string_view text,
 // edit field's own element (editXml) or, for a combo without an edit field
 // (editXml null), the current text in an element "Text"; then the tree list's
 // "HbxTreeList" element (treeListXml, written as it is).
-AF_GString ComboXml(const AF_GString* editXml, std::u16string_view currentText,
+AF_GString ComboXml(const AF_GString* editXml, vu::StringView currentText,
                     const AF_GString& treeListXml);
 
 } // namespace vu::treecombo

@@ -76,10 +76,10 @@ TEST(TreeComboRules, HidingPlaceBySystemVersion) {
 }
 
 TEST(TreeComboRules, EditFieldHeldToSelectionOnlyWhileOpenWithTree) {
-    EXPECT_TRUE(MustShowSelection(true, true, u"typed", u"Motor"));
-    EXPECT_FALSE(MustShowSelection(true, true, u"Motor", u"Motor"));
-    EXPECT_FALSE(MustShowSelection(true, false, u"typed", u"Motor"));
-    EXPECT_FALSE(MustShowSelection(false, true, u"typed", u"Motor"));
+    EXPECT_TRUE(MustShowSelection(true, true, VU_T("typed"), VU_T("Motor")));
+    EXPECT_FALSE(MustShowSelection(true, true, VU_T("Motor"), VU_T("Motor")));
+    EXPECT_FALSE(MustShowSelection(true, false, VU_T("typed"), VU_T("Motor")));
+    EXPECT_FALSE(MustShowSelection(false, true, VU_T("typed"), VU_T("Motor")));
 }
 
 // ---- Look-ahead completion ------------------------------------------------------
@@ -87,18 +87,18 @@ TEST(TreeComboRules, EditFieldHeldToSelectionOnlyWhileOpenWithTree) {
 TEST(LookAheadCompletion, OnlyPrintableCharactersAtTheEndLookUp) {
     struct Row {
         const char* name;
-        char16_t typed;
+        WCHAR typed;
         int selStart, selEnd, length;
         bool expected;
     } rows[] = {
-        {"letter at the end", u'm', 3, 3, 3, true},
-        {"space at the end", u' ', 4, 4, 4, true},
+        {"letter at the end", VU_T('m'), 3, 3, 3, true},
+        {"space at the end", VU_T(' '), 4, 4, 4, true},
         {"backspace", 8, 2, 2, 2, false},
         {"ctrl+a", 1, 0, 3, 3, false},
         {"DEL", 0x7F, 3, 3, 3, false},
-        {"typed in the middle", u'x', 2, 2, 5, false},
-        {"a selection left after the edit", u'x', 1, 3, 3, false},
-        {"empty field", u'x', 0, 0, 0, false},
+        {"typed in the middle", VU_T('x'), 2, 2, 5, false},
+        {"a selection left after the edit", VU_T('x'), 1, 3, 3, false},
+        {"empty field", VU_T('x'), 0, 0, 0, false},
         {"non-ASCII letter", 0x00E9, 1, 1, 1, true},
     };
     for (const Row& r : rows) {
@@ -109,24 +109,24 @@ TEST(LookAheadCompletion, OnlyPrintableCharactersAtTheEndLookUp) {
 }
 
 TEST(LookAheadCompletion, CompletesWithTheItemsTextAndSelectsTheTail) {
-    auto done = VU_CLookAheadCompletion::Complete(u"mot", u"Motor_Start");
+    auto done = VU_CLookAheadCompletion::Complete(VU_T("mot"), VU_T("Motor_Start"));
     ASSERT_TRUE(done.has_value());
-    EXPECT_TRUE(done->text == u"Motor_Start");
+    EXPECT_TRUE(done->text == VU_T("Motor_Start"));
     EXPECT_EQ(3, done->selStart);
     EXPECT_EQ(11, done->selEnd);
 
     // Case beyond ASCII is blind too.
-    EXPECT_TRUE(VU_CLookAheadCompletion::Complete(u"\u00c9t", u"\u00e9tat").has_value());
+    EXPECT_TRUE(VU_CLookAheadCompletion::Complete(VU_T("\u00c9t"), VU_T("\u00e9tat")).has_value());
 
     struct Row {
         const char* name;
-        const char16_t* typed;
-        const char16_t* item;
+        const WCHAR* typed;
+        const WCHAR* item;
     } refused[] = {
-        {"item equal to the typed text", u"Motor", u"motor"},
-        {"item shorter", u"Motors", u"Motor"},
-        {"item not starting with it", u"Mx", u"Motor"},
-        {"nothing typed", u"", u"Motor"},
+        {"item equal to the typed text", VU_T("Motor"), VU_T("motor")},
+        {"item shorter", VU_T("Motors"), VU_T("Motor")},
+        {"item not starting with it", VU_T("Mx"), VU_T("Motor")},
+        {"nothing typed", VU_T(""), VU_T("Motor")},
     };
     for (const Row& r : refused) {
         SCOPED_TRACE(r.name);
@@ -135,9 +135,9 @@ TEST(LookAheadCompletion, CompletesWithTheItemsTextAndSelectsTheTail) {
 }
 
 TEST(LookAheadCompletion, ProposedTailIsTheSelectionRunningToTheEnd) {
-    const std::u16string_view text = u"Motor_Start";
-    EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, 3, 11) == u"or_Start");
-    EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, 11, 3) == u"or_Start");
+    const vu::StringView text = VU_T("Motor_Start");
+    EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, 3, 11) == VU_T("or_Start"));
+    EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, 11, 3) == VU_T("or_Start"));
     EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, 3, 5).empty());
     EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, 11, 11).empty());
     EXPECT_TRUE(VU_CLookAheadCompletion::ProposedTail(text, -1, 11).empty());

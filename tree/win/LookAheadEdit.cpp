@@ -13,7 +13,7 @@ bool VU_CLookAheadEdit::WriteXml(VU_CXmlWriter& writer) const {
     int start = 0, end = 0;
     GetSel(start, end);
     return VU_CLookAheadCompletion::WriteXml(
-        writer, std::u16string_view(text.GetString(), static_cast<size_t>(text.GetLength())), start,
+        writer, std::wstring_view(text.GetString(), static_cast<size_t>(text.GetLength())), start,
         end);
 }
 
@@ -54,7 +54,7 @@ LRESULT VU_CLookAheadEdit::OnChar(WPARAM wParam, LPARAM lParam) {
     const LRESULT result = DefWindowProc(WM_CHAR, wParam, lParam);
     int start = 0, end = 0;
     GetSel(start, end);
-    if (VU_CLookAheadCompletion::ShouldLookUp(static_cast<char16_t>(wParam), start, end,
+    if (VU_CLookAheadCompletion::ShouldLookUp(static_cast<wchar_t>(wParam), start, end,
                                               GetWindowTextLength()))
         CompleteTypedText();
     return result;
@@ -71,8 +71,8 @@ void VU_CLookAheadEdit::CompleteTypedText() {
     if (Lookup(found) == 0)
         return;
     const auto completion = VU_CLookAheadCompletion::Complete(
-        std::u16string_view(typed.GetString(), static_cast<size_t>(typed.GetLength())),
-        std::u16string_view(found.GetString(), static_cast<size_t>(found.GetLength())));
+        std::wstring_view(typed.GetString(), static_cast<size_t>(typed.GetLength())),
+        std::wstring_view(found.GetString(), static_cast<size_t>(found.GetLength())));
     if (!completion)
         return;
     SetWindowText(completion->text.c_str());

@@ -13,7 +13,7 @@ int VU_CTreeComboBoxEditControl::Lookup(CString& text) {
     if (m_combo == nullptr || m_combo->GetCount() <= 0)
         return 0;
     if (m_combo->IsUsingTree()) {
-        m_combo->FindStringEx(-1, reinterpret_cast<const wchar_t*>(text.GetString()));
+        m_combo->FindStringEx(-1, text.GetString());
         return 0;
     }
     const int row = m_combo->FindNoCaseChildString(text, text.GetLength(), 0, 1);
@@ -60,7 +60,7 @@ LRESULT VU_CTreeComboBoxEditControl::OnChar(WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT VU_CTreeComboBoxEditControl::OnSetText(WPARAM wParam, LPARAM lParam) {
-    const auto* text = reinterpret_cast<const char16_t*>(lParam);
+    const auto* text = reinterpret_cast<const wchar_t*>(lParam);
     if (s_settingSelectionText || m_combo == nullptr || text == nullptr)
         return VU_CLookAheadEdit::OnSetText(wParam, lParam);
     const bool useTree = m_combo->IsUsingTree();
@@ -69,7 +69,7 @@ LRESULT VU_CTreeComboBoxEditControl::OnSetText(WPARAM wParam, LPARAM lParam) {
     const CString selection = dropped ? m_combo->GetCurSelDisplayText() : CString();
     if (!vu::treecombo::MustShowSelection(
             useTree, dropped, text,
-            std::u16string_view(selection.GetString(), static_cast<size_t>(selection.GetLength()))))
+            std::wstring_view(selection.GetString(), static_cast<size_t>(selection.GetLength()))))
         return VU_CLookAheadEdit::OnSetText(wParam, lParam);
     s_settingSelectionText = true;
     const LRESULT result =

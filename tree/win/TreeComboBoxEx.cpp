@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kRowHeight = 16;
 
-std::u16string_view View(const CString& text) {
+std::wstring_view View(const CString& text) {
     return {text.GetString(), static_cast<size_t>(text.GetLength())};
 }
 
@@ -38,7 +38,7 @@ BOOL AF_CTreeComboBoxEx::Create(DWORD style, const CRect& rect, CWnd* parent, UI
 
 BOOL AF_CTreeComboBoxEx::Create(DWORD style, const CRect& rect, HWND parent, UINT id) {
     style = (style & ~(CBS_HASSTRINGS | CBS_SORT | CBS_OWNERDRAWVARIABLE)) | CBS_OWNERDRAWFIXED;
-    if (!CWnd::CreateEx(0, u"COMBOBOX", nullptr, style | WS_CHILD | WS_VSCROLL, rect.left, rect.top,
+    if (!CWnd::CreateEx(0, L"COMBOBOX", nullptr, style | WS_CHILD | WS_VSCROLL, rect.left, rect.top,
                         rect.Width(), rect.Height(), parent,
                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id))))
         return FALSE;
@@ -293,7 +293,7 @@ int AF_CTreeComboBoxEx::FindNoCaseChildStringItem(const CString& text, CString& 
         return -1;
     if (m_listSubclassed)
         return m_listBox.FindNoCaseChildStringItem(text, foundText, length, matchParents, 0);
-    const std::u16string_view key = View(text).substr(0, static_cast<size_t>(length));
+    const std::wstring_view key = View(text).substr(0, static_cast<size_t>(length));
     for (int row = 0; row < GetCount(); ++row) {
         const CString shown = NodeOfRow(row)->GetDisplayText();
         if (shown.GetLength() >= static_cast<int>(key.size()) &&
@@ -308,7 +308,7 @@ int AF_CTreeComboBoxEx::FindNoCaseChildStringItem(const CString& text, CString& 
 int AF_CTreeComboBoxEx::FindStringEx(int start, const wchar_t* text) {
     if (text == nullptr || *text == 0)
         return -1;
-    const CString key(reinterpret_cast<const char16_t*>(text));
+    const CString key(text);
     const int row = FindNoCaseChildString(const_cast<CString&>(key), key.GetLength(), 0);
     if (row < 0 || row <= start)
         return -1;
@@ -318,7 +318,7 @@ int AF_CTreeComboBoxEx::FindStringEx(int start, const wchar_t* text) {
 }
 
 LRESULT AF_CTreeComboBoxEx::OnFindString(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto* text = reinterpret_cast<const char16_t*>(lParam);
+    const auto* text = reinterpret_cast<const wchar_t*>(lParam);
     if (text == nullptr || *text == 0)
         return CB_ERR;
     const CString key(text);
@@ -376,7 +376,7 @@ void AF_CTreeComboBoxEx::SetEditText(const CString& text) {
 }
 
 LRESULT AF_CTreeComboBoxEx::OnGetLBText(WPARAM wParam, LPARAM lParam) {
-    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    auto* buffer = reinterpret_cast<wchar_t*>(lParam);
     CString text;
     if (buffer == nullptr || GetLBItemText(static_cast<int>(wParam), text) == CB_ERR)
         return CB_ERR;
@@ -394,7 +394,7 @@ LRESULT AF_CTreeComboBoxEx::OnGetLBTextLen(WPARAM wParam) {
 LRESULT AF_CTreeComboBoxEx::OnGetText(WPARAM wParam, LPARAM lParam) {
     if (HasEditField())
         return Default();
-    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    auto* buffer = reinterpret_cast<wchar_t*>(lParam);
     if (buffer == nullptr || wParam == 0)
         return 0;
     const CString text = GetCurSelDisplayText();
@@ -417,7 +417,7 @@ AF_GString AF_CTreeComboBoxEx::XmlGetString() {
     if (hasEdit)
         editXml = m_editControl.XmlGetString();
     const CString current = GetCurSelDisplayText();
-    const AF_GString list = m_listSubclassed ? m_listBox.XmlGetString() : AF_GString(u"");
+    const AF_GString list = m_listSubclassed ? m_listBox.XmlGetString() : AF_GString(L"");
     return vu::treecombo::ComboXml(hasEdit ? &editXml : nullptr, View(current), list);
 }
 
@@ -444,8 +444,7 @@ void AF_CTreeComboBoxEx::DrawItem(LPDRAWITEMSTRUCT dis) {
         rc.left += 2;
         ::SetBkMode(dis->hDC, TRANSPARENT);
         ::SetTextColor(dis->hDC, ::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-        ::DrawTextW(dis->hDC, reinterpret_cast<const wchar_t*>(text.GetString()), text.GetLength(),
-                    &rc,
+        ::DrawTextW(dis->hDC, text.GetString(), text.GetLength(), &rc,
                     DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_EXPANDTABS);
     }
     if (dis->itemState & ODS_FOCUS)

@@ -31,10 +31,10 @@ public:
     }
 };
 
-inline std::u16string WindowText(HWND hWnd) {
+inline std::wstring WindowText(HWND hWnd) {
     wchar_t buffer[256] = {};
     GetWindowTextW(hWnd, buffer, 256);
-    return std::u16string(reinterpret_cast<const char16_t*>(buffer));
+    return std::wstring(buffer);
 }
 
 class ComboTest : public ::testing::Test {
@@ -53,8 +53,8 @@ protected:
     }
 
     void BuildSample() {
-        CString line(u"Line"), motor(u"Motor"), valve(u"Valve"), sensors(u"Sensors"), temp(u"Temp"),
-            spare(u"Spare");
+        CString line(L"Line"), motor(L"Motor"), valve(L"Valve"), sensors(L"Sensors"), temp(L"Temp"),
+            spare(L"Spare");
         const int l = combo->AddItem(line, 0, 1, 10);
         combo->AddItem(motor, 6, 6, 11, l);
         combo->AddItem(valve, 6, 6, 12, l);
@@ -66,10 +66,10 @@ protected:
     HWND List() const { return combo->GetListBox().m_hWnd; }
     HWND Edit() const { return combo->GetEditControl()->m_hWnd; }
     bool Dropped() const { return combo->GetDroppedState() != FALSE; }
-    std::u16string EditText() const { return WindowText(Edit()); }
-    std::vector<std::u16string> Rows() const { return RowTexts(List()); }
-    int RowOf(const char16_t* text) const {
-        const std::vector<std::u16string> rows = Rows();
+    std::wstring EditText() const { return WindowText(Edit()); }
+    std::vector<std::wstring> Rows() const { return RowTexts(List()); }
+    int RowOf(const wchar_t* text) const {
+        const std::vector<std::wstring> rows = Rows();
         for (size_t i = 0; i < rows.size(); ++i)
             if (rows[i] == text)
                 return static_cast<int>(i);
@@ -80,16 +80,16 @@ protected:
         PumpMessages();
     }
     // A click in the dropped list at x on the row showing text.
-    void ClickRow(const char16_t* text, int x) {
+    void ClickRow(const wchar_t* text, int x) {
         const int row = RowOf(text);
         ASSERT_GE(row, 0) << "no row "
-                          << std::string(text, text + std::char_traits<char16_t>::length(text));
+                          << std::string(text, text + std::char_traits<wchar_t>::length(text));
         RECT item{};
         SendMessageW(List(), LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&item));
         Click(List(), x, (item.top + item.bottom) / 2);
         PumpMessages();
     }
-    void Choose(const char16_t* leaf) {
+    void Choose(const wchar_t* leaf) {
         Open();
         ClickRow(leaf, 60);
     }
