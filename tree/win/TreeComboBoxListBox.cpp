@@ -33,24 +33,29 @@ int VU_CTreeComboBoxListBox::GetItemIcon(int row) const {
 void VU_CTreeComboBoxListBox::Expand(int row) {
     CTreeNode* node = GetNode(row);
     const bool opens = node != nullptr && !node->IsExpanded() && node->GetNumberOfChildren() > 0;
-    VU_CTreeListBox::Expand(row);
     if (!opens)
         return;
+    BeginUpdate(); // one repaint for the rows, the size and the scrolling
+    VU_CTreeListBox::Expand(row);
     FitDropDownToRows();
-    // Bring the last new child in, but never push the parent off the top.
-    ScrollItemIntoView(row + node->ComputeNumberOfExpandedNodesShowing());
-    if (GetTopIndex() > row)
+    // Bring the new children in, as many as the page holds below the parent:
+    // the parent goes to the top when they do not all fit.
+    const int shown = node->ComputeNumberOfExpandedNodesShowing();
+    RECT client{};
+    ::GetClientRect(m_hWnd, &client);
+    const int itemHeight = static_cast<int>(::SendMessageW(m_hWnd, LB_GETITEMHEIGHT, 0, 0));
+    const int page = itemHeight > 0 ? client.bottom / itemHeight : 0;
+    if (shown + 1 > page)
         SetTopIndex(row);
-}
-
-void VU_CTreeComboBoxListBox::Collapse(int row) {
-    VU_CTreeListBox::Collapse(row);
-    FitDropDownToRows();
+    else
+        ScrollItemIntoView(row + shown);
+    EndUpdate();
 }
 
 void VU_CTreeComboBoxListBox::FitDropDownToRows() {
     // The drop-down was sized to the rows it opened with; rows that a toggle
-    // adds must stay inside it, up to the height the combo was given.
+    // adds must stay inside it, up to the height the combo was given. It
+    // does not shrink again while open: the rows under the pointer stay put.
     if (m_combo == nullptr || m_hWnd == nullptr || !m_combo->GetDroppedState())
         return;
     CRect dropped;
@@ -62,7 +67,7 @@ void VU_CTreeComboBoxListBox::FitDropDownToRows() {
     const int itemHeight = static_cast<int>(::SendMessageW(m_hWnd, LB_GETITEMHEIGHT, 0, 0));
     const int wanted = std::max(1, GetRowCount()) * itemHeight + frame;
     const int height = std::min(wanted, std::max(dropped.Height(), itemHeight + frame));
-    if (height != window.bottom - window.top)
+    if (height > window.bottom - window.top)
         ::SetWindowPos(m_hWnd, nullptr, 0, 0, window.right - window.left, height,
                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

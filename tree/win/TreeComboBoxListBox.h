@@ -27,9 +27,8 @@ public:
     // Overridables
     // Shows as many of the new children as the drop-down holds, keeping the
     // parent on the page.
+    // Also grows the dropped-down list to hold the new rows.
     void Expand(int row) override;
-    // Both also fit the dropped-down list to its rows.
-    void Collapse(int row) override;
     // The list itself never takes the focus: it counts as focused while its
     // combo (or the combo's edit field) has it.
     BOOL HasFocus() override;
