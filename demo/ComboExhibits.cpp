@@ -45,7 +45,7 @@ int RowOfText(AF_CTreeComboBoxEx& combo, const wchar_t* text) {
 }
 
 void TagPicker(Context& c) {
-    HWND frame = c.CreateFrame(L"VuLib gallery - tree combo box", 340, 330);
+    HWND frame = c.CreateFrame(L"VuLib gallery - tree combo box", 304, 192);
     AF_CTreeComboBoxEx combo;
     c.Check(combo.Create(CBS_DROPDOWN | WS_VISIBLE | WS_TABSTOP, CRect(12, 12, 292, 312), frame,
                          200) != FALSE,
