@@ -19,9 +19,8 @@
 namespace treetest {
 
 constexpr int kComboId = 77;
-constexpr int kComboRow = 16;
 
-// Refuses the rows whose item data is in the refused set (as a host would).
+// Refuses the rows carrying one item data, as a host would.
 class RefusingCombo : public AF_CTreeComboBoxEx {
 public:
     unsigned long refusedData = 0;
@@ -47,20 +46,16 @@ protected:
         ASSERT_TRUE(combo->IsListSubclassed());
         BuildSample();
     }
-    void TearDown() override {
-        combo.reset();
-        parent.reset();
-    }
-
     void BuildSample() {
-        CString line(L"Line"), motor(L"Motor"), valve(L"Valve"), sensors(L"Sensors"), temp(L"Temp"),
-            spare(L"Spare");
-        const int l = combo->AddItem(line, 0, 1, 10);
-        combo->AddItem(motor, 6, 6, 11, l);
-        combo->AddItem(valve, 6, 6, 12, l);
-        const int s = combo->AddItem(sensors, 0, 1, 13, l);
-        combo->AddItem(temp, 6, 6, 14, s);
-        combo->AddItem(spare, 6, 6, 20);
+        const auto add = [this](const wchar_t* text, unsigned long data, int parent) {
+            CString item(text);
+            return combo->AddItem(item, 6, 6, data, parent);
+        };
+        const int line = add(L"Line", 10, -1);
+        add(L"Motor", 11, line);
+        add(L"Valve", 12, line);
+        add(L"Temp", 14, add(L"Sensors", 13, line));
+        add(L"Spare", 20, -1);
     }
 
     HWND List() const { return combo->GetListBox().m_hWnd; }
@@ -70,10 +65,8 @@ protected:
     std::vector<std::wstring> Rows() const { return RowTexts(List()); }
     int RowOf(const wchar_t* text) const {
         const std::vector<std::wstring> rows = Rows();
-        for (size_t i = 0; i < rows.size(); ++i)
-            if (rows[i] == text)
-                return static_cast<int>(i);
-        return -1;
+        const auto it = std::find(rows.begin(), rows.end(), text);
+        return it == rows.end() ? -1 : static_cast<int>(it - rows.begin());
     }
     void Open() {
         combo->ShowDropDown(TRUE);
@@ -81,11 +74,9 @@ protected:
     }
     // A click in the dropped list at x on the row showing text.
     void ClickRow(const wchar_t* text, int x) {
-        const int row = RowOf(text);
-        ASSERT_GE(row, 0) << "no row "
-                          << std::string(text, text + std::char_traits<wchar_t>::length(text));
         RECT item{};
-        SendMessageW(List(), LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&item));
+        ASSERT_NE(LB_ERR, SendMessageW(List(), LB_GETITEMRECT, RowOf(text),
+                                       reinterpret_cast<LPARAM>(&item)));
         Click(List(), x, (item.top + item.bottom) / 2);
         PumpMessages();
     }
@@ -95,7 +86,7 @@ protected:
     }
 
     std::unique_ptr<ParentWindow> parent;
-    std::unique_ptr<RefusingCombo> combo;
+    std::unique_ptr<RefusingCombo> combo; // destroyed before its parent
 };
 
 } // namespace treetest
