@@ -32,23 +32,6 @@ TEST(TreeComboRules, ClicksInTheDropDown) {
     }
 }
 
-TEST(TreeComboRules, HidingPlaceBySystemVersion) {
-    struct Row {
-        unsigned major, minor;
-        bool move;
-        int x;
-    } rows[] = {{5, 0, false, 0}, {5, 1, true, -1000}, {6, 2, true, 0}, {10, 0, true, -1000}};
-    for (const Row& r : rows) {
-        SCOPED_TRACE(std::to_string(r.major) + "." + std::to_string(r.minor));
-        const HidingPlace place = HidingPlaceFor(r.major, r.minor);
-        EXPECT_EQ(r.move, place.move);
-        if (r.move) {
-            EXPECT_EQ(r.x, place.x);
-            EXPECT_EQ(r.x, place.y);
-        }
-    }
-}
-
 TEST(LookAheadCompletion, PrintableCharactersAtTheEndCompleteToTheItemsText) {
     struct Row {
         const char* name;
@@ -59,7 +42,6 @@ TEST(LookAheadCompletion, PrintableCharactersAtTheEndCompleteToTheItemsText) {
         {"letter at the end", VU_T('m'), 3, 3, 3, true},
         {"backspace", 8, 2, 2, 2, false},
         {"typed in the middle", VU_T('x'), 2, 2, 5, false},
-        {"a selection left after the edit", VU_T('x'), 1, 3, 3, false},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);

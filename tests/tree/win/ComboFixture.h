@@ -1,11 +1,6 @@
 #pragma once
-// A tree combo box on a plain Win32 parent, with a small tree:
-//   Line           (parent)
-//     Motor        (leaf, data 11)
-//     Valve        (leaf, data 12)
-//     Sensors      (parent)
-//       Temp       (leaf, data 14)
-//   Spare          (leaf, data 20)
+// A tree combo box on a plain Win32 parent, with the tree Line (Motor 11,
+// Valve 12, Sensors (Temp 14)), Spare 20: item data after the leaves.
 #include "TreeTestHost.h"
 
 #include "tree/win/TreeComboBoxEx.h"

@@ -40,14 +40,11 @@ template <typename Condition> bool WaitFor(Condition condition) {
 
 TEST_F(ComboTest, RealClicksOpenExpandAndChooseALeaf) {
     ShowWindow(parent->Handle(), SW_SHOW);
-    PumpMessages();
-
     COMBOBOXINFO info{};
     info.cbSize = sizeof(info);
     ASSERT_TRUE(GetComboBoxInfo(combo->m_hWnd, &info));
-    const RECT& button = info.rcButton;
-    ASSERT_TRUE(RealClick(combo->m_hWnd, (button.left + button.right) / 2,
-                          (button.top + button.bottom) / 2));
+    const RECT& b = info.rcButton;
+    ASSERT_TRUE(RealClick(combo->m_hWnd, (b.left + b.right) / 2, (b.top + b.bottom) / 2));
     ASSERT_TRUE(WaitFor([&] { return Dropped(); })) << "the button did not open the list";
 
     RECT item{};
@@ -63,7 +60,6 @@ TEST_F(ComboTest, RealClicksOpenExpandAndChooseALeaf) {
         << "no CBN_SELENDOK at the parent";
     EXPECT_FALSE(Dropped());
     EXPECT_EQ(L"Valve", EditText());
-    EXPECT_EQ(12ul, combo->GetCurSelItemData());
     const auto chosen = std::find_if(parent->commands.begin(), parent->commands.end(),
                                      [](const Command& c) { return c.code == CBN_SELENDOK; });
     EXPECT_EQ(kComboId, chosen->id);
