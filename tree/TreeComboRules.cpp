@@ -1,5 +1,6 @@
 #include "tree/TreeComboRules.h"
 
+#include "framework/CaseMap.h"
 #include "text/XmlWriter.h"
 #include "tree/TreeListGeometry.h"
 
@@ -31,6 +32,17 @@ HidingPlace HidingPlaceFor(unsigned major, unsigned minor) {
 bool MustShowSelection(bool useTree, bool dropped, vu::StringView text,
                        vu::StringView selectionText) {
     return useTree && dropped && text != selectionText;
+}
+
+bool MatchesKey(vu::StringView shown, vu::StringView key, bool exact) {
+    if (key.empty() || shown.size() < key.size())
+        return false;
+    if (exact) {
+        const size_t tab = shown.find(VU_T('\t'));
+        const vu::StringView name = tab == vu::StringView::npos ? shown : shown.substr(0, tab);
+        return vu::EqualNoCase(name, key);
+    }
+    return vu::EqualNoCase(shown.substr(0, key.size()), key);
 }
 
 AF_GString ComboXml(const AF_GString* editXml, vu::StringView currentText,

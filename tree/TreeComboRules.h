@@ -59,6 +59,27 @@ HidingPlace HidingPlaceFor(unsigned major, unsigned minor);
 bool MustShowSelection(bool useTree, bool dropped, vu::StringView text,
                        vu::StringView selectionText);
 
+// ---- Searching the rows -------------------------------------------------------------
+
+// Whether a row's text answers a search for key: it starts with key
+// (case-blind), or with exact, its text before the first tab equals key
+// (case-blind). An empty key matches nothing.
+bool MatchesKey(vu::StringView shown, vu::StringView key, bool exact);
+
+// The first of `count` rows after `start` (-1 or out of range: from row 0),
+// going round to the rows before it, that `matches`; -1 when none. The order
+// of the combo box's own search messages.
+template <typename Matches> int FindRowAfter(int count, int start, Matches matches) {
+    if (start < 0 || start >= count)
+        start = -1;
+    for (int i = 1; i <= count; ++i) {
+        const int row = (start + i) % count;
+        if (matches(row))
+            return row;
+    }
+    return -1;
+}
+
 // ---- XML ------------------------------------------------------------------------
 
 // The combo's description: an XML declaration, then "HbxComboBox" holding the

@@ -305,35 +305,29 @@ int AF_CTreeComboBoxEx::FindNoCaseChildStringItem(const CString& text, CString& 
     return -1;
 }
 
+int AF_CTreeComboBoxEx::FindRow(int start, const wchar_t* key, bool exact, bool leavesOnly) {
+    if (key == nullptr)
+        return -1;
+    const std::wstring_view wanted(key);
+    return vu::treecombo::FindRowAfter(GetCount(), start, [&](int row) {
+        const CTreeNode* node = NodeOfRow(row);
+        return node != nullptr && !(leavesOnly && node->GetNumberOfChildren() > 0) &&
+               vu::treecombo::MatchesKey(View(node->GetDisplayText()), wanted, exact);
+    });
+}
+
 int AF_CTreeComboBoxEx::FindStringEx(int start, const wchar_t* text) {
-    if (text == nullptr || *text == 0)
-        return -1;
-    const CString key(text);
-    const int row = FindNoCaseChildString(const_cast<CString&>(key), key.GetLength(), 0);
-    if (row < 0 || row <= start)
-        return -1;
-    if (m_listSubclassed)
+    const int row = FindRow(start, text, false, true);
+    if (row >= 0 && m_listSubclassed)
         SetCurSel(row);
     return row;
 }
 
 LRESULT AF_CTreeComboBoxEx::OnFindString(UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto* text = reinterpret_cast<const wchar_t*>(lParam);
-    if (text == nullptr || *text == 0)
-        return CB_ERR;
-    const CString key(text);
-    int row = -1;
-    if (m_listSubclassed) {
-        row = m_listBox.FindNoCaseChildString(key, key.GetLength(), 1, 0,
-                                              message == CB_FINDSTRINGEXACT ? 1 : 0);
-    } else {
-        CString found;
-        row = FindNoCaseChildStringItem(key, found, key.GetLength(), 1);
-        if (row >= 0 && message == CB_FINDSTRINGEXACT && !vu::EqualNoCase(View(found), View(key)))
-            row = -1;
-    }
     const int start = static_cast<int>(static_cast<LONG>(wParam));
-    if (row < 0 || (start >= 0 && row <= start))
+    const int row = FindRow(start, reinterpret_cast<const wchar_t*>(lParam),
+                            message == CB_FINDSTRINGEXACT, false);
+    if (row < 0)
         return CB_ERR;
     if (message == CB_SELECTSTRING)
         SelectRow(row, false);

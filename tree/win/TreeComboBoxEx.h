@@ -21,19 +21,20 @@
 //   flat row in the order added, parentHandle is ignored, and the look-ahead
 //   edit completes from the items. Switching while items exist keeps the
 //   rows already shown, flat.
-// - FindStringEx(start, text) finds the first row after `start` (-1: from the
-//   top) whose node, or a shown node below it, starts with text (case-blind),
-//   leaves only; with the tree it selects that row. The messages CB_FINDSTRING,
-//   CB_FINDSTRINGEXACT and CB_SELECTSTRING search the same way (EXACT: the
-//   text before the first tab equals the key); CB_GETLBTEXT(LEN) and
-//   WM_GETTEXT(LENGTH) answer the rows' display texts.
+// - Searches go over the rows as the system combo box does: from the row
+//   after `start` (-1: from the top) round to the rows before it, case-blind,
+//   a row matching when its text starts with the key (CB_FINDSTRINGEXACT:
+//   its text before the first tab equals the key). FindStringEx considers
+//   leaves only and, with the tree, selects the row it finds (typing in the
+//   open list moves the selection). CB_GETLBTEXT(LEN) and WM_GETTEXT(LENGTH)
+//   answer the rows' display texts.
 // - The drop-down is as wide as the combo; rows too long for it end in an
 //   ellipsis as in the tree list box, so SetupHorzScrollExtent only turns the
 //   list's horizontal extent off.
 // - GetItemCount is the number of items (nodes) added, shown or not.
 // - The XML description: a declaration, then "HbxComboBox" holding the edit
 //   field's "HbxLookAheadEdit" (or, without an edit field, the current text in
-//   "Text"), then the tree list's "HbxTreeList".
+//   "Text"), then, with the tree in use, the tree list's "HbxTreeList".
 #include "foundation/GString.h"
 #include "framework/win/ComboBox.h"
 #include "tree/ImageIndexArray.h"
@@ -49,7 +50,7 @@ public:
     AF_CTreeComboBoxEx();
     ~AF_CTreeComboBoxEx() override;
 
-    virtual BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) override;
+    BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) override;
     BOOL Create(DWORD style, const CRect& rect, HWND parent, UINT id);
 
     // ---- Attributes -----------------------------------------------------------------
@@ -137,6 +138,7 @@ protected:
     bool HasEditField() const;
     CTreeNode* NodeOfRow(int row) const;
     int SelectRow(int row, bool notify);
+    int FindRow(int start, const wchar_t* key, bool exact, bool leavesOnly);
     int AddFlatItem(CString& text, const VU_CImageIndexArray& images, unsigned long itemData);
     void PostToParent(int code);
 

@@ -93,14 +93,16 @@ TEST_F(ComboTest, SearchAndTextMessagesAnswerFromTheTree) {
     combo->Expand(0); // Line Motor Valve Sensors Spare; Temp stays hidden
     struct Search {
         UINT message;
+        int start;
         const wchar_t* key;
         int expected; // -1 for CB_ERR
-    } searches[] = {{CB_FINDSTRING, L"val", 2},        {CB_FINDSTRINGEXACT, L"val", -1},
-                    {CB_FINDSTRINGEXACT, L"VALVE", 2}, {CB_FINDSTRING, L"Spa", 4},
-                    {CB_FINDSTRING, L"", -1},          {CB_SELECTSTRING, L"valve", 2}};
+    } searches[] = {{CB_FINDSTRING, -1, L"val", 2},        {CB_FINDSTRINGEXACT, -1, L"val", -1},
+                    {CB_FINDSTRINGEXACT, -1, L"VALVE", 2}, {CB_FINDSTRING, -1, L"Spa", 4},
+                    {CB_FINDSTRING, 3, L"line", 0},        {CB_FINDSTRING, 2, L"val", 2},
+                    {CB_FINDSTRING, -1, L"", -1},          {CB_SELECTSTRING, -1, L"valve", 2}};
     for (const Search& s : searches) {
-        SCOPED_TRACE(testing::Message() << s.message << " " << s.key);
-        const LRESULT row = SendMessageW(combo->m_hWnd, s.message, static_cast<WPARAM>(-1),
+        SCOPED_TRACE(testing::Message() << s.message << " after " << s.start);
+        const LRESULT row = SendMessageW(combo->m_hWnd, s.message, static_cast<WPARAM>(s.start),
                                          reinterpret_cast<LPARAM>(s.key));
         EXPECT_EQ(s.expected, row == CB_ERR ? -1 : static_cast<int>(row));
     }
