@@ -1,10 +1,8 @@
 #include "tree/win/TreeComboBoxEx.h"
 
-#include "framework/CaseMap.h"
-
-#include "text/XmlWriter.h"
 #include "tree/TreeComboRules.h"
 #include "tree/TreeNode.h"
+
 #include <algorithm>
 
 namespace {
@@ -296,8 +294,7 @@ int AF_CTreeComboBoxEx::FindNoCaseChildStringItem(const CString& text, CString& 
     const std::wstring_view key = View(text).substr(0, static_cast<size_t>(length));
     for (int row = 0; row < GetCount(); ++row) {
         const CString shown = NodeOfRow(row)->GetDisplayText();
-        if (shown.GetLength() >= static_cast<int>(key.size()) &&
-            vu::EqualNoCase(key, View(shown).substr(0, key.size()))) {
+        if (vu::treecombo::MatchesKey(View(shown), key, false)) {
             foundText = shown;
             return row;
         }
