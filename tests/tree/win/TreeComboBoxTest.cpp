@@ -107,6 +107,9 @@ TEST_F(ComboTest, SearchAndTextMessagesAnswerFromTheTree) {
         EXPECT_EQ(s.expected, row == CB_ERR ? -1 : static_cast<int>(row));
     }
     EXPECT_EQ(L"Valve", EditText()) << "CB_SELECTSTRING selected it";
+    wchar_t buffer[16] = {};
+    EXPECT_EQ(7, SendMessageW(combo->m_hWnd, CB_GETLBTEXT, 3, reinterpret_cast<LPARAM>(buffer)));
+    EXPECT_EQ(L"Sensors", std::wstring(buffer));
 
     EXPECT_EQ(4, combo->SelectItemFromItemData(14, true)) << "opens Sensors to show Temp";
     EXPECT_EQ(L"Temp", EditText());
