@@ -111,7 +111,7 @@ void AF_CTreeComboBoxEx::UseTree(int on) {
     if (place.move)
         SetWindowPos(HWND(nullptr), home.left, home.top, 0, 0, flags);
     if (!m_listSubclassed) {
-        // A list that drew nothing while open is taken over directly.
+        // A list that did not ask the combo for its colours is taken over directly.
         COMBOBOXINFO info{};
         info.cbSize = sizeof(info);
         if (::GetComboBoxInfo(m_hWnd, &info))
