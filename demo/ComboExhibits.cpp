@@ -77,8 +77,16 @@ void TagPicker(Context& c) {
     combo.SetCurSel(RowOfText(combo, L"Fill_Level"));
     c.Pump();
 
-    c.SaveClientPng(frame, L"tree_combo_box");
-    c.SaveText(L"tree_combo_box.xml", combo.XmlGetString());
+    // The combo and its dropped list, a top-level window of its own.
+    RECT shown{}, dropped{};
+    GetWindowRect(combo.m_hWnd, &shown);
+    GetWindowRect(list, &dropped);
+    UnionRect(&shown, &shown, &dropped);
+    InflateRect(&shown, 6, 6);
+    c.SaveScreenPng(shown, L"tree_combo_box",
+                    L"Tree combo box dropped down: a tag picker with Filler and its valve open");
+    c.SaveText(L"tree_combo_box.xml", combo.XmlGetString(),
+               L"The tree combo box's XML (HbxComboBox: HbxLookAheadEdit, then HbxTreeList)");
 
     // A click on a leaf chooses it and closes the list.
     const int open = RowOfText(combo, L"Open");
