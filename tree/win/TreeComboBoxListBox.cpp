@@ -75,6 +75,8 @@ void VU_CTreeComboBoxListBox::FitDropDownToRows() {
 BOOL VU_CTreeComboBoxListBox::HasFocus() {
     if (m_combo == nullptr)
         return VU_CTreeListBox::HasFocus();
+    if (m_combo->GetDroppedState())
+        return TRUE; // an open drop-down is where the user is choosing
     HWND focus = ::GetFocus();
     return focus != nullptr && (focus == m_combo->m_hWnd || ::IsChild(m_combo->m_hWnd, focus));
 }

@@ -29,8 +29,9 @@ public:
     // parent on the page.
     // Also grows the dropped-down list to hold the new rows.
     void Expand(int row) override;
-    // The list itself never takes the focus: it counts as focused while its
-    // combo (or the combo's edit field) has it.
+    // The list itself never takes the focus: it counts as focused while it
+    // is dropped down, or while its combo (or the combo's edit field) has it,
+    // so the row being chosen is drawn highlighted.
     BOOL HasFocus() override;
     // Headers and separators never; the rest as the combo decides.
     virtual bool IsItemAllowedToBeSelected(int row);
