@@ -4,6 +4,8 @@
 #include "text/XmlWriter.h"
 #include "tree/TreeListGeometry.h"
 
+#include <algorithm>
+
 namespace vu::treecombo {
 
 DropClick ClassifyDropClick(bool onScrollBar, bool onRow, int x, int level, bool hasChildren,
@@ -13,6 +15,12 @@ DropClick ClassifyDropClick(bool onScrollBar, bool onRow, int x, int level, bool
     if (hasChildren && treelist::IsOnExpandButton(x, level, 0))
         return DropClick::Toggle;
     return selectable ? DropClick::Default : DropClick::Ignore;
+}
+
+int DropDownHeight(int rows, int itemHeight, int frame, int maxHeight, int current) {
+    const int wanted = std::max(1, rows) * itemHeight + frame;
+    const int height = std::min(wanted, std::max(maxHeight, itemHeight + frame));
+    return std::max(height, current);
 }
 
 CloseUp DecideCloseUp(int selection, bool allowed, int lastAccepted) {

@@ -24,6 +24,19 @@ enum class DropClick {
 DropClick ClassifyDropClick(bool onScrollBar, bool onRow, int x, int level, bool hasChildren,
                             bool selectable);
 
+// ---- Growing the drop-down ----------------------------------------------------
+
+// Height for a dropped list of `rows` rows (a frame of `frame` pixels around
+// them), at most maxHeight but always room for one row; never less than
+// `current`, so that an open list does not shrink under the pointer.
+int DropDownHeight(int rows, int itemHeight, int frame, int maxHeight, int current);
+
+// Whether expanding a node shows its `shown` new rows best with the node at
+// the top of a page of pageRows rows (they do not all fit below it).
+inline bool ParentGoesToTop(int shown, int pageRows) {
+    return shown + 1 > pageRows;
+}
+
 // ---- Close-up --------------------------------------------------------------------
 
 struct CloseUp {

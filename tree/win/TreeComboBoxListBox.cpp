@@ -5,7 +5,6 @@
 
 #include <windowsx.h>
 
-#include <algorithm>
 #include <cstring>
 
 using vu::treecombo::DropClick;
@@ -45,7 +44,7 @@ void VU_CTreeComboBoxListBox::Expand(int row) {
     ::GetClientRect(m_hWnd, &client);
     const int itemHeight = static_cast<int>(::SendMessageW(m_hWnd, LB_GETITEMHEIGHT, 0, 0));
     const int page = itemHeight > 0 ? client.bottom / itemHeight : 0;
-    if (shown + 1 > page)
+    if (vu::treecombo::ParentGoesToTop(shown, page))
         SetTopIndex(row);
     else
         ScrollItemIntoView(row + shown);
@@ -63,11 +62,11 @@ void VU_CTreeComboBoxListBox::FitDropDownToRows() {
     RECT window{}, client{};
     ::GetWindowRect(m_hWnd, &window);
     ::GetClientRect(m_hWnd, &client);
-    const int frame = (window.bottom - window.top) - client.bottom;
     const int itemHeight = static_cast<int>(::SendMessageW(m_hWnd, LB_GETITEMHEIGHT, 0, 0));
-    const int wanted = std::max(1, GetRowCount()) * itemHeight + frame;
-    const int height = std::min(wanted, std::max(dropped.Height(), itemHeight + frame));
-    if (height > window.bottom - window.top)
+    const int current = window.bottom - window.top;
+    const int height = vu::treecombo::DropDownHeight(
+        GetRowCount(), itemHeight, current - client.bottom, dropped.Height(), current);
+    if (height != current)
         ::SetWindowPos(m_hWnd, nullptr, 0, 0, window.right - window.left, height,
                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
