@@ -212,10 +212,11 @@ void AF_CTreeComboBoxEx::Collapse(int row) {
 }
 
 void AF_CTreeComboBoxEx::ResetComboBoxContents() {
-    if (m_listSubclassed)
-        m_listBox.ResetTreeContents();
-    else if (IsWindow())
+    // Rows first (they point at the nodes), then the nodes: a tree that was
+    // switched off still owns the nodes of the rows it left behind.
+    if (!m_listSubclassed && IsWindow())
         SendMessage(CB_RESETCONTENT);
+    m_listBox.ResetTreeContents();
     for (CTreeNode* node : m_flatNodes)
         delete node;
     m_flatNodes.RemoveAll();
