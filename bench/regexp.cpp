@@ -262,6 +262,50 @@ void StdLines(benchmark::State& state, const Case& c) {
     Finish(state, matches, LineBytes());
 }
 
+// ---- Backtracking traps ----------------------------------------------------------
+
+// Patterns whose plain backtracking search is polynomial or exponential in
+// the subject length, on a run of 'a' of the benchmark's size argument and a
+// tail that keeps the required-literal hint from ruling the search out. Each
+// search fails; PCRE2's interpreter runs the same search (with its default
+// match limit, so it may give up instead of answering).
+struct Trap {
+    const char* name;
+    const WCHAR* pattern;
+    const WCHAR* tail;
+};
+const Trap kTraps[] = {
+    {"Trap/AltThenRun", VU_T("(x|a+y)"), VU_T("")},  // quadratic: a+ rescans the rest per start
+    {"Trap/TwoStars", VU_T("a*a*y|zz"), VU_T("")},   // quadratic per start, cubic in all
+    {"Trap/NestedPlus", VU_T("(a+)+b"), VU_T("-b")}, // exponential
+};
+
+vu::String TrapText(benchmark::State& state, const Trap& t) {
+    return vu::String(size_t(state.range(0)), VU_T('a')) + t.tail;
+}
+
+void VuTrap(benchmark::State& state, const Trap& t) {
+    const vu::String text = TrapText(state, t);
+    VU_CRegExpression re;
+    re.RegComp(t.pattern);
+    int found = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(found = re.RegFind(text.c_str()));
+    state.counters["found"] = found;
+    state.SetBytesProcessed(int64_t(state.iterations()) * int64_t(text.size() * 2));
+}
+
+void Pcre2Trap(benchmark::State& state, const Trap& t) {
+    const vu::String text = TrapText(state, t);
+    Pcre2 re(t.pattern, false);
+    int rc = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(rc = re.Match(text.data(), text.size(), 0));
+    state.counters["found"] = rc > 0 ? 0 : -1;
+    state.counters["gaveUp"] = rc == PCRE2_ERROR_MATCHLIMIT || rc == PCRE2_ERROR_DEPTHLIMIT;
+    state.SetBytesProcessed(int64_t(state.iterations()) * int64_t(text.size() * 2));
+}
+
 // ---- Memory scans: the physical limit --------------------------------------------
 
 // Looks for a unit that does not occur, reading every byte of the buffer.
@@ -312,6 +356,24 @@ void RegisterAll() {
         benchmark::RegisterBenchmark((name + "/Pcre2Jit").c_str(), Pcre2Text, c, true);
         benchmark::RegisterBenchmark((name + "/Icu").c_str(), IcuText, c);
         benchmark::RegisterBenchmark((name + "/StdWregex").c_str(), StdText, c);
+    }
+    // PCRE2 runs only the sizes it finishes within a few seconds.
+    const std::vector<int64_t> trapSizes[] = {{1000, 10'000, 100'000, 10'000'000},
+                                              {1000, 3000, 10'000, 100'000},
+                                              {16, 20, 24, 40, 10'000}};
+    const int64_t pcre2Sizes[] = {100'000, 3000, 24};
+    for (size_t i = 0; i < std::size(kTraps); ++i) {
+        const std::string trap = kTraps[i].name;
+        for (int64_t size : trapSizes[i]) {
+            benchmark::RegisterBenchmark((trap + "/Vu").c_str(), VuTrap, kTraps[i])
+                ->Arg(size)
+                ->Unit(benchmark::kMillisecond);
+            if (size <= pcre2Sizes[i])
+                benchmark::RegisterBenchmark((trap + "/Pcre2Interpreter").c_str(), Pcre2Trap,
+                                             kTraps[i])
+                    ->Arg(size)
+                    ->Unit(benchmark::kMillisecond);
+        }
     }
     const std::string name = kLineCase.name;
     benchmark::RegisterBenchmark((name + "/Vu").c_str(), VuLines, kLineCase);

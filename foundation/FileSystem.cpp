@@ -28,12 +28,6 @@ namespace vu {
 bool FileSystem::HasDriveLetters() {
     return true;
 }
-bool FileSystem::IsSeparator(WCHAR c) {
-    return c == VU_T('\\');
-}
-WCHAR FileSystem::SeparatorFor(vu::StringView) {
-    return VU_T('\\');
-}
 bool FileSystem::IsRootedWithoutDrive(vu::StringView) {
     return false;
 }
@@ -104,6 +98,18 @@ vu::String FromNative(std::string_view s) {
     return vu::Utf8ToUtf16(s);
 }
 
+// A native path as the path rules read it: '/' becomes '\'.
+vu::String PathFromNative(std::string_view s) {
+    vu::String out = FromNative(s);
+    std::replace(out.begin(), out.end(), VU_T('/'), VU_T('\\'));
+    return out;
+}
+
+// The file system reads both '\' and '/' as a separator.
+bool IsNativeSeparator(WCHAR c) {
+    return c == VU_T('\\') || c == VU_T('/');
+}
+
 bool HasDrivePrefix(vu::StringView path) {
     return path.size() >= 2 && path[1] == VU_T(':');
 }
@@ -117,17 +123,8 @@ bool HasWildcard(vu::StringView s) {
 bool FileSystem::HasDriveLetters() {
     return false;
 }
-bool FileSystem::IsSeparator(WCHAR c) {
-    return c == VU_T('\\') || c == VU_T('/');
-}
-
-WCHAR FileSystem::SeparatorFor(vu::StringView path) {
-    const std::size_t last = path.find_last_of(VU_T("\\/"));
-    return last == vu::StringView::npos ? VU_T('/') : path[last];
-}
-
 bool FileSystem::IsRootedWithoutDrive(vu::StringView path) {
-    return !path.empty() && IsSeparator(path[0]) && !IsUncStart(path);
+    return !path.empty() && path[0] == VU_T('\\') && !IsUncStart(path);
 }
 
 bool FileSystem::Exists(vu::StringView path) {
@@ -153,9 +150,9 @@ bool FileSystem::FullPath(vu::StringView path, std::size_t bufferUnits, vu::Stri
     if (path.empty() || HasDrivePrefix(path) || IsUncStart(path))
         return false;
     vu::String combined;
-    if (!IsSeparator(path[0]) && !GetCwd(vu::String::npos, combined))
+    if (!IsNativeSeparator(path[0]) && !GetCwd(vu::String::npos, combined))
         return false;
-    combined += VU_T('/');
+    combined += VU_T('\\');
     combined += path;
 
     std::vector<vu::StringView> parts;
@@ -163,7 +160,7 @@ bool FileSystem::FullPath(vu::StringView path, std::size_t bufferUnits, vu::Stri
     std::size_t start = 0;
     while (start <= all.size()) {
         std::size_t end = start;
-        while (end < all.size() && !IsSeparator(all[end]))
+        while (end < all.size() && !IsNativeSeparator(all[end]))
             ++end;
         const vu::StringView part = all.substr(start, end - start);
         if (part == VU_T("..")) {
@@ -177,11 +174,11 @@ bool FileSystem::FullPath(vu::StringView path, std::size_t bufferUnits, vu::Stri
 
     vu::String result;
     for (const auto& part : parts) {
-        result += VU_T('/');
+        result += VU_T('\\');
         result += part;
     }
-    if (result.empty() || IsSeparator(path.back()))
-        result += VU_T('/');
+    if (result.empty() || IsNativeSeparator(path.back()))
+        result += VU_T('\\');
     if (result.size() + 1 > bufferUnits)
         return false;
     out = std::move(result);
@@ -195,7 +192,7 @@ bool FileSystem::GetCwd(std::size_t bufferUnits, vu::String& out) {
             return false;
         buffer.resize(buffer.size() * 2);
     }
-    vu::String cwd = FromNative(buffer.data());
+    vu::String cwd = PathFromNative(buffer.data());
     if (cwd.size() + 1 > bufferUnits)
         return false;
     out = std::move(cwd);
@@ -203,7 +200,7 @@ bool FileSystem::GetCwd(std::size_t bufferUnits, vu::String& out) {
 }
 
 bool FileSystem::FindFirstName(vu::StringView path, vu::String& name) {
-    if (path.empty() || IsSeparator(path.back()))
+    if (path.empty() || IsNativeSeparator(path.back()))
         return false;
     const std::size_t cut = path.find_last_of(VU_T("\\/"));
     const vu::StringView last = cut == vu::StringView::npos ? path : path.substr(cut + 1);

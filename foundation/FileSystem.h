@@ -1,20 +1,16 @@
 #pragma once
-// vu::FileSystem: the few file-system calls and path conventions that the
-// path classes use, in one place. On Windows they are the C runtime's wide
-// calls (_waccess, _wmkdir, _wrmdir, _wfullpath, _wgetcwd, _wfindfirst).
-// Natively they are POSIX calls on UTF-8 names, and paths follow Windows
-// rules mapped onto POSIX:
+// vu::FileSystem: the few file-system calls that the path classes use, in
+// one place. Paths follow Windows rules on every platform (see
+// foundation/SplitPath.h); only these calls differ. On Windows they are the
+// C runtime's wide calls (_waccess, _wmkdir, _wrmdir, _wfullpath, _wgetcwd,
+// _wfindfirst). Natively they are POSIX calls on UTF-8 names:
 //
-//  - '\' and '/' both separate directories ('\' is read as '/');
-//  - there are no drive letters: a path that begins with a separator (and
-//    is not a UNC path) is rooted at the file-system root '/', which stands
-//    for the drive and its root directory: AF_CPath keeps Drive empty and
-//    Dir beginning with the separator ('/tmp/a/f.txt': Dir '/tmp/a');
-//  - the separator added when joining is the one the path already uses, or
-//    '/' when it has none.
-//
-// Windows keeps its own rules exactly: only '\' ends a directory in the
-// path rules (the splitter still accepts '/'), and joins add '\'.
+//  - a '\' in a path given to them is read as '/';
+//  - there are no drive letters: a path that begins with '\' (and is not a
+//    UNC path) is rooted at the file-system root, which stands for the drive
+//    and its root directory ('\tmp\a\f.txt' names /tmp/a/f.txt);
+//  - the paths they return (GetCwd, FullPath) are written with '\', so the
+//    path classes read them as they read any other.
 #include "framework/Char.h"
 #include <cstddef>
 #include <string>
@@ -24,16 +20,12 @@ namespace vu {
 
 class FileSystem {
 public:
-    // ---- path conventions ----------------------------------------------------
+    // ---- where the platforms differ ------------------------------------------
 
     // Whether paths on this platform can carry a drive letter ('C:').
     static bool HasDriveLetters();
-    // Whether c ends a directory in the path rules.
-    static bool IsSeparator(WCHAR c);
-    // The separator to put after path when joining another part to it.
-    static WCHAR SeparatorFor(vu::StringView path);
     // Whether path is rooted at the file-system root without a drive
-    // (natively '/...'; never on Windows, where the drive's root is 'C:\').
+    // (natively '\...'; never on Windows, where the drive's root is 'C:\').
     static bool IsRootedWithoutDrive(vu::StringView path);
 
     // ---- file-system calls -----------------------------------------------------

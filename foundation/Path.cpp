@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 using vu::FileSystem;
 
@@ -22,7 +23,7 @@ CString Trimmed(const WCHAR* s) {
 }
 
 bool EndsWithSeparator(const CString& s) {
-    return !s.IsEmpty() && FileSystem::IsSeparator(s[s.GetLength() - 1]);
+    return !s.IsEmpty() && vu::IsDirSeparator(s[s.GetLength() - 1]);
 }
 
 // Drops one trailing separator from a directory longer than one unit, so a
@@ -106,7 +107,7 @@ void AF_CPath::BuildPath() {
     }
     full += m_Dir;
     if (!m_Dir.IsEmpty() && !EndsWithSeparator(m_Dir))
-        full += FileSystem::SeparatorFor(m_Dir.View());
+        full += vu::kDirSeparator;
     full += m_Root;
     if (!m_Ext.IsEmpty()) {
         full += VU_T('.');
@@ -153,7 +154,7 @@ void AF_CPath::SetDriveDir(const WCHAR* driveDir) {
         return;
     CString t = Trimmed(driveDir);
     if (!t.IsEmpty() && !EndsWithSeparator(t))
-        t += FileSystem::SeparatorFor(t.View());
+        t += vu::kDirSeparator;
     const AF_CPath parsed(t);
     m_Drive = parsed.m_Drive;
     m_Dir = parsed.m_Dir;
@@ -298,13 +299,13 @@ BOOL AF_CPath::CreateDir() const {
     if (dd.size() >= static_cast<std::size_t>(kMaxPath))
         return FALSE;
     std::size_t first = 0;
-    while (first < dd.size() && !FileSystem::IsSeparator(dd[first]))
+    while (first < dd.size() && !vu::IsDirSeparator(dd[first]))
         ++first;
     if (first == dd.size())
         return FALSE;
     // Each prefix up to a further separator, then the whole directory.
     for (std::size_t i = first + 1; i <= dd.size(); ++i) {
-        if (i < dd.size() && !FileSystem::IsSeparator(dd[i]))
+        if (i < dd.size() && !vu::IsDirSeparator(dd[i]))
             continue;
         const vu::StringView prefix = dd.substr(0, i);
         if (!FileSystem::Exists(prefix) && !FileSystem::MakeDir(prefix))
@@ -333,14 +334,8 @@ BOOL AF_CPath::GetLongName(const WCHAR* item, CString* longName) {
     if (item == nullptr || *item == 0 || longName == nullptr)
         return FALSE;
     const vu::StringView s(item);
-    if (s.size() == 1 && FileSystem::IsSeparator(s[0])) {
-        // A lone separator is a drive's root on Windows, which has no name;
-        // natively it is the file-system root, which stands for the drive.
-        if (FileSystem::HasDriveLetters())
-            return FALSE;
-        *longName = CString(s);
-        return TRUE;
-    }
+    if (s.size() == 1 && vu::IsDirSeparator(s[0]))
+        return FALSE; // a drive's root has no name
     if ((s.size() == 2 || s.size() == 3) && s[1] == VU_T(':')) {
         *longName = CString(s);
         longName->SetAt(0, vu::ToUpper(s[0]));
@@ -355,27 +350,37 @@ BOOL AF_CPath::GetLongName(const WCHAR* item, CString* longName) {
 
 BOOL AF_CPath::RemoveAliases() {
     const CString driveDir = GetDriveDir();
-    AF_CPathIterator walk(driveDir);
+    const vu::StringView dd = driveDir.View();
+    std::vector<CString> items; // growing prefixes, each looked up
     CString result;
-    if (!IsPathUNC(driveDir)) {
-        if (!GetLongName(walk.First(), &result))
-            return FALSE;
+    if (FileSystem::IsRootedWithoutDrive(dd)) {
+        // Natively the root '\' stands for the drive's root and is kept as
+        // it is; every longer prefix up to a separator is looked up.
+        result = VU_T("\\");
+        for (std::size_t i = 1; i <= dd.size(); ++i)
+            if ((i == dd.size() || vu::IsDirSeparator(dd[i])) && !vu::IsDirSeparator(dd[i - 1]))
+                items.emplace_back(dd.substr(0, i));
     } else {
-        walk.First();
-        if (walk.Done())
-            return FALSE;
-        result = walk++;
-        result += VU_T('\\');
+        AF_CPathIterator walk(driveDir);
+        if (!IsPathUNC(driveDir)) {
+            if (!GetLongName(walk.First(), &result))
+                return FALSE;
+        } else {
+            walk.First();
+            if (walk.Done())
+                return FALSE;
+            result = walk++;
+            result += vu::kDirSeparator;
+        }
+        for (CString item = walk++; !walk.Done(); item = walk++)
+            items.push_back(item);
     }
-    for (;;) {
-        const CString item = walk++;
-        if (walk.Done())
-            break;
+    for (const CString& item : items) {
         CString longName;
         if (!GetLongName(item, &longName))
             return FALSE;
         result += longName;
-        result += FileSystem::SeparatorFor(result.View());
+        result += vu::kDirSeparator;
     }
     SetDriveDir(result);
     if (GetName().IsEmpty())

@@ -1,9 +1,18 @@
 #pragma once
 // AF_CPath: a file path split into machine, share, drive, directory, name
 // and extension, with rebuilding, comparison, existence tests, directory
-// creation and long-name expansion. Paths follow Windows rules on every
-// platform; see foundation/FileSystem.h for how they map onto a POSIX file
-// system natively (the root '/' stands for the drive there).
+// creation and long-name expansion. Splitting, rebuilding, the setters and
+// the name tests follow Windows rules on every platform ('\' separates,
+// joins add '\'; a '/' is an ordinary unit except to the splitter), so a
+// path means the same natively and on Windows. Only the file-system calls
+// differ; see foundation/FileSystem.h (natively the root '\' stands for the
+// drive).
+//
+// Parts of any length are kept whole: splitting, the setters and the
+// rebuild never drop or empty a part for its length. Only the operations
+// that work within a 261-unit path limit refuse longer paths: SetDriveDir
+// ignores its argument, the iterator walks nothing, CreateDir fails and
+// MakeAbsolute fails when the absolute form needs 260 units or more.
 //
 // Every setter rebuilds FullPath from Drive, Dir, Root and Ext; Machine and
 // Share are not part of the rebuild (a UNC path keeps them inside Dir).
@@ -93,7 +102,7 @@ private:
     void SetMachineAndShare();
 
     CString m_Drive;    // letter alone, no colon
-    CString m_Dir;      // one trailing separator removed unless it is the root
+    CString m_Dir;      // one trailing '\' removed unless it is the root
     CString m_Root;     // file name without extension
     CString m_Ext;      // extension without its dot
     CString m_FullPath; // as last set (trimmed) or rebuilt

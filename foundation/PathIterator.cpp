@@ -1,104 +1,64 @@
 #include "foundation/PathIterator.h"
 
-#include "foundation/FileSystem.h"
+#include "foundation/SplitPath.h"
 
-#include <cstring>
 #include <string>
 
-using vu::FileSystem;
-
-namespace {
-
-std::size_t Length(const WCHAR* s) {
-    return std::char_traits<WCHAR>::length(s);
-}
-
-const WCHAR* NextSeparator(const WCHAR* p) {
-    while (*p != 0 && !FileSystem::IsSeparator(*p))
-        ++p;
-    return p;
-}
-
-} // namespace
-
-AF_CPathIterator::AF_CPathIterator() : m_rest(nullptr) {
-    m_path[0] = 0;
-    m_current[0] = 0;
-}
-
-AF_CPathIterator::AF_CPathIterator(const WCHAR* path) : AF_CPathIterator() {
+AF_CPathIterator::AF_CPathIterator(const WCHAR* path) {
     SetPath(path);
 }
 
-AF_CPathIterator::AF_CPathIterator(const AF_CPathIterator& other) : m_rest(nullptr) {
-    *this = other;
-}
-
-AF_CPathIterator& AF_CPathIterator::operator=(const AF_CPathIterator& other) {
-    if (this != &other) {
-        std::memcpy(m_path, other.m_path, sizeof(m_path));
-        std::memcpy(m_current, other.m_current, sizeof(m_current));
-        // The rest points into our own buffer, at the same place.
-        m_rest = other.m_rest == nullptr ? nullptr : m_path + (other.m_rest - other.m_path);
-    }
-    return *this;
-}
-
 void AF_CPathIterator::SetPath(const WCHAR* path) {
-    m_path[0] = 0;
-    m_current[0] = 0;
-    m_rest = nullptr;
+    m_path.clear();
+    m_current.clear();
+    m_rest = kDone;
     if (path == nullptr || *path == 0)
         return;
-    std::size_t length = Length(path);
-    const bool needsSeparator = !FileSystem::IsSeparator(path[length - 1]);
-    if (length + (needsSeparator ? 1 : 0) >= static_cast<std::size_t>(kBufferUnits))
+    m_path = path;
+    if (m_path.size() >= kMaxPath) {
+        m_path.clear();
         return;
-    std::memcpy(m_path, path, length * sizeof(WCHAR));
-    if (needsSeparator) {
-        const WCHAR separator = FileSystem::SeparatorFor(vu::StringView(path, length));
-        m_path[length++] = separator;
     }
-    m_path[length] = 0;
+    if (!vu::IsDirSeparator(m_path.back()))
+        m_path += vu::kDirSeparator;
     First();
 }
 
-void AF_CPathIterator::SetCurrent(const WCHAR* end) {
-    const std::size_t n = static_cast<std::size_t>(end - m_path);
-    std::memcpy(m_current, m_path, n * sizeof(WCHAR));
-    m_current[n] = 0;
+std::size_t AF_CPathIterator::NextSeparator(std::size_t from) const {
+    while (from < m_path.size() && !vu::IsDirSeparator(m_path[from]))
+        ++from;
+    return from;
+}
+
+void AF_CPathIterator::SetCurrent(std::size_t end) {
+    m_current.assign(m_path, 0, end);
 }
 
 const WCHAR* AF_CPathIterator::First() {
-    m_current[0] = 0;
-    m_rest = nullptr;
-    const std::size_t length = Length(m_path);
-    const WCHAR* rest = nullptr;
-    if (FileSystem::IsRootedWithoutDrive(vu::StringView(m_path, length))) {
-        rest = m_path + 1; // the root alone
-    } else if (length < 3) {
-        return m_current;
-    } else if (m_path[0] == VU_T('\\') && m_path[1] == VU_T('\\')) {
-        const WCHAR* end = NextSeparator(m_path + 2);
-        rest = *end == 0 ? end : end + 1; // '\\machine\'
-    } else {
-        rest = m_path + 3;
+    m_current.clear();
+    m_rest = kDone;
+    if (m_path.size() < 3)
+        return Current();
+    std::size_t rest = 3;
+    if (m_path[0] == VU_T('\\') && m_path[1] == VU_T('\\')) {
+        const std::size_t end = NextSeparator(2);
+        rest = end == m_path.size() ? end : end + 1; // '\\machine\'
     }
     SetCurrent(rest);
-    m_rest = *rest == 0 ? nullptr : rest;
-    return m_current;
+    m_rest = rest == m_path.size() ? kDone : rest;
+    return Current();
 }
 
 const WCHAR* AF_CPathIterator::operator++(int) {
-    m_current[0] = 0;
-    if (m_rest == nullptr)
-        return m_current;
-    if (*m_rest == 0) {
-        m_rest = nullptr;
-        return m_current;
+    m_current.clear();
+    if (m_rest == kDone)
+        return Current();
+    if (m_rest == m_path.size()) {
+        m_rest = kDone;
+        return Current();
     }
-    const WCHAR* end = NextSeparator(m_rest);
+    const std::size_t end = NextSeparator(m_rest);
     SetCurrent(end);
-    m_rest = *end == 0 ? end : end + 1;
-    return m_current;
+    m_rest = end == m_path.size() ? end : end + 1;
+    return Current();
 }

@@ -1,21 +1,21 @@
 #pragma once
 // AF_CPathIterator: walks a path prefix by prefix. 'c:\a\b' yields 'c:\',
 // then 'c:\a', then 'c:\a\b'; one more step yields an empty item and the
-// walk is done. A UNC path starts with '\\machine\'. Natively a path rooted
-// at '/' starts with '/' (the root stands for the drive).
+// walk is done. A UNC path starts with '\\machine\'. The walk follows
+// Windows rules on every platform: only '\' separates.
 //
-// The walk works in fixed buffers of 261 units: a path that does not fit
-// with its terminating separator gives an empty walk.
+// Every path shorter than 261 units is walked (a separator is appended
+// when it does not end in one); a longer path gives an empty walk.
 #include "framework/Types.h"
+
+#include <cstddef>
 
 class AF_CPathIterator {
 public:
-    // Construction
-    AF_CPathIterator();
+    // Construction (copies continue the walk independently, at the same
+    // place)
+    AF_CPathIterator() = default;
     AF_CPathIterator(const WCHAR* path);
-    // Copies continue the walk independently, at the same place.
-    AF_CPathIterator(const AF_CPathIterator& other);
-    AF_CPathIterator& operator=(const AF_CPathIterator& other);
 
     // Operations
     // Restarts the walk on path (empty for a null, empty or too long path).
@@ -29,15 +29,18 @@ public:
     const WCHAR* operator++(int);
 
     // Attributes
-    const WCHAR* Current() const { return m_current; }
-    BOOL Done() const { return m_rest == nullptr ? TRUE : FALSE; }
+    const WCHAR* Current() const { return m_current.c_str(); }
+    BOOL Done() const { return m_rest == kDone ? TRUE : FALSE; }
 
-    static constexpr int kBufferUnits = 261;
+    // Paths of this many units or more are not walked.
+    static constexpr std::size_t kMaxPath = 261;
 
 private:
-    void SetCurrent(const WCHAR* end);
+    static constexpr std::size_t kDone = static_cast<std::size_t>(-1);
+    void SetCurrent(std::size_t end);
+    std::size_t NextSeparator(std::size_t from) const;
 
-    WCHAR m_path[kBufferUnits];    // the path, ending in a separator
-    WCHAR m_current[kBufferUnits]; // the current item
-    const WCHAR* m_rest;           // into m_path: still to walk; null when done
+    vu::String m_path;          // the path, ending in a separator
+    vu::String m_current;       // the current item
+    std::size_t m_rest = kDone; // index into m_path still to walk; kDone when done
 };

@@ -10,12 +10,6 @@ bool IsSplitSeparator(WCHAR c) {
     return c == VU_T('\\') || c == VU_T('/');
 }
 
-// Assigns part to out if out was requested; false when it would not fit in
-// a runtime buffer of limit units (terminator included).
-bool Fits(const vu::String* out, vu::StringView part, std::size_t limit) {
-    return out == nullptr || part.size() < limit;
-}
-
 void Assign(vu::String* out, vu::StringView part) {
     if (out != nullptr)
         out->assign(part);
@@ -60,9 +54,6 @@ bool SplitPath(const WCHAR* path, vu::String* drive, vu::String* dir, vu::String
         extPart = rest.substr(dot);
     }
 
-    if (!Fits(drive, drivePart, kMaxDrive) || !Fits(dir, dirPart, kMaxDir) ||
-        !Fits(fname, namePart, kMaxFname) || !Fits(ext, extPart, kMaxExt))
-        return false;
     Assign(drive, drivePart);
     Assign(dir, dirPart);
     Assign(fname, namePart);

@@ -5,8 +5,8 @@
 
 namespace {
 
-// The "C" locale's character set: one unit per byte, 0-127.
-constexpr unsigned kLastCUnit = 0x7F;
+// The Windows runtime's "C" locale: one unit per byte, 0-255 both ways.
+constexpr unsigned kLastByteUnit = 0xFF;
 
 std::size_t WideLength(const WCHAR* s) {
     std::size_t n = 0;
@@ -114,14 +114,9 @@ WCHAR* AF_CUStr::uxdup(const char* narrow) {
     auto* wide = static_cast<WCHAR*>(std::malloc((length + 1) * sizeof(WCHAR)));
     if (wide == nullptr)
         return nullptr;
-    std::size_t i = 0;
-    for (; i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(narrow[i]);
-        if (byte > kLastCUnit)
-            break;
-        wide[i] = byte;
-    }
-    wide[i] = 0;
+    for (std::size_t i = 0; i < length; ++i)
+        wide[i] = static_cast<unsigned char>(narrow[i]);
+    wide[length] = 0;
     return wide;
 }
 
@@ -134,7 +129,7 @@ char* AF_CUStr::uxdup(const WCHAR* wide) {
         return nullptr;
     std::size_t i = 0;
     for (; i < length; ++i) {
-        if (wide[i] > kLastCUnit)
+        if (wide[i] > kLastByteUnit)
             break;
         narrow[i] = static_cast<char>(wide[i]);
     }

@@ -4,10 +4,12 @@
 // form only when asked, keeping that copy until it is destroyed; it frees
 // only the copy it made, never the caller's string.
 //
-// Conversion behaves like the C runtime's mbstowcs/wcstombs in the "C"
-// locale: units 0-127 map one to one. A byte above 127 or a wide unit
-// above 127 has no counterpart there, so the conversion stops at it and the
-// copy holds the text converted so far.
+// Conversion does what the Windows C runtime's mbstowcs/wcstombs do in the
+// default ("C") locale, on every platform: a byte is the unit of the same
+// value (0-255, so narrow "caf\xE9" reads as "caf\u00E9"), and a unit up to
+// 0xFF is the byte of the same value. A unit above 0xFF has no byte in that
+// locale: the runtime stops there, and the narrow copy holds the text
+// before it.
 //
 // Copies: the caller's string is shared, but a converted copy is duplicated
 // so that every object owns (and frees) its own; a copy therefore reads the

@@ -39,16 +39,12 @@ vu::String PathText(FuzzedDataProvider& in) {
 
 void CheckSplit(const vu::String& path) {
     vu::String drive, dir, fname, ext;
-    if (vu::SplitPath(path.c_str(), &drive, &dir, &fname, &ext)) {
-        Check(drive + dir + fname + ext == path);
-        Check(dir.empty() || dir.back() == VU_T('\\') || dir.back() == VU_T('/'));
-        Check(fname.find_first_of(VU_T("\\/")) == vu::String::npos);
-        Check(ext.empty() ||
-              (ext[0] == VU_T('.') && ext.find_first_of(VU_T("\\/."), 1) == vu::String::npos));
-    } else {
-        Check(drive.empty() && dir.empty() && fname.empty() && ext.empty());
-        Check(path.size() >= vu::kMaxFname - 1); // some part had 255 units or more
-    }
+    Check(vu::SplitPath(path.c_str(), &drive, &dir, &fname, &ext)); // parts of any length
+    Check(drive + dir + fname + ext == path.substr(0, path.find(VU_T('\0'))));
+    Check(dir.empty() || dir.back() == VU_T('\\') || dir.back() == VU_T('/'));
+    Check(fname.find_first_of(VU_T("\\/")) == vu::String::npos);
+    Check(ext.empty() ||
+          (ext[0] == VU_T('.') && ext.find_first_of(VU_T("\\/."), 1) == vu::String::npos));
 }
 
 void CheckWalk(const vu::String& path) {

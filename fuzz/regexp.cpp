@@ -1,6 +1,7 @@
 // Fuzzes VU_CRegExpression: compiles a random pattern, runs it with a step
 // budget on a random text and on its suffixes, expands the pattern as a
-// replacement template, and copies the object. Any crash, leak, sanitizer
+// replacement template, copies the object and searches again with the
+// failure memo switched on at once. Any crash, leak, sanitizer
 // report or broken invariant (a match outside the text, groups outside the
 // match, found text differing from the text) is a finding.
 #include "text/RegExpression.h"
@@ -73,6 +74,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     VU_CRegExpression copy(re);
     if (!re.IsStepLimitExceeded())
         Check(copy.RegFind(text.c_str()) == index);
+    // With the failure memo on from the start, the same match and groups.
+    VU_CRegExpression memo(re);
+    memo.SetFailureMemoThreshold(0);
+    const int memoIndex = memo.RegFind(text.c_str());
+    if (!re.IsStepLimitExceeded() && !memo.IsStepLimitExceeded()) {
+        Check(memoIndex == index);
+        for (int n = 0; n < VU_CRegExpression::kGroupCount; ++n)
+            Check(memo.GetGroupStart(n) == re.GetGroupStart(n) &&
+                  memo.GetGroupEnd(n) == re.GetGroupEnd(n));
+    }
     VU_CRegExpression assigned;
     assigned = copy;
     for (size_t from = 1; from < text.size() && from < 8; ++from)

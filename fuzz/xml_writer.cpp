@@ -4,6 +4,8 @@
 // come back when their entities are read, and every open element is closed.
 #include "text/XmlWriter.h"
 
+#include <fuzzer/FuzzedDataProvider.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -13,28 +15,17 @@
 
 namespace {
 
-class Input {
-public:
-    Input(const uint8_t* data, size_t size) : m_data(data), m_size(size) {}
-    bool Empty() const { return m_pos >= m_size; }
-    uint8_t Byte() { return m_pos < m_size ? m_data[m_pos++] : 0; }
-    // Mostly characters that matter to names and escaping.
-    AF_GString Text() {
-        static const WCHAR alphabet[] = VU_T("abZ_:1.- <>&'\"\n\u00e9\u4e2d");
-        AF_GString s;
-        for (int n = Byte() % 12; n > 0; --n) {
-            const uint8_t b = Byte();
-            s += b < 200 ? alphabet[b % (std::size(alphabet) - 1)]
-                         : static_cast<WCHAR>(b << 8 | Byte());
-        }
-        return s;
+// Mostly characters that matter to names and escaping, some arbitrary units.
+AF_GString Text(FuzzedDataProvider& in) {
+    static const WCHAR alphabet[] = VU_T("abZ_:1.- <>&'\"\n\u00e9\u4e2d");
+    AF_GString s;
+    for (int n = in.ConsumeIntegralInRange(0, 11); n > 0; --n) {
+        const uint8_t b = in.ConsumeIntegral<uint8_t>();
+        s += b < 200 ? alphabet[b % (std::size(alphabet) - 1)]
+                     : static_cast<WCHAR>(b << 8 | in.ConsumeIntegral<uint8_t>());
     }
-
-private:
-    const uint8_t* m_data;
-    size_t m_size;
-    size_t m_pos = 0;
-};
+    return s;
+}
 
 void Check(bool ok) {
     if (!ok)
@@ -79,7 +70,7 @@ vu::String Unescape(vu::String s) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    Input in(data, size);
+    FuzzedDataProvider in(data, size);
     VU_CXmlWriter w;
     bool tagOpen = false;
     std::set<vu::String> attributes;
@@ -88,13 +79,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         tagOpen = false;
         attributes.clear();
     };
-    for (int steps = 0; steps < 200 && !in.Empty(); ++steps) {
+    for (int steps = 0; steps < 200 && in.remaining_bytes() > 0; ++steps) {
         const vu::String before(w.GetOutput());
         const size_t closer = tagOpen ? 1 : 0; // the '>' that content adds first
         bool ok = true;
-        switch (in.Byte() % 10) {
+        switch (in.ConsumeIntegralInRange(0, 6)) {
         case 0: {
-            const AF_GString name = in.Text();
+            const AF_GString name = Text(in);
             ok = w.WriteStartElement(name);
             Check(ok == ModelValidName(name));
             if (ok) {
@@ -105,7 +96,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             break;
         }
         case 1: {
-            const AF_GString name = in.Text(), value = in.Text();
+            const AF_GString name = Text(in), value = Text(in);
             ok = w.WriteAttributeString(&name, &value);
             Check(ok == (ModelValidName(name) && !value.empty() &&
                          value.find(VU_T('<')) == vu::String::npos && !attributes.count(name)));
@@ -114,7 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             break;
         }
         case 2: {
-            const AF_GString text = in.Text();
+            const AF_GString text = Text(in);
             w.WriteElementString(text);
             Check(Unescape(vu::String(w.GetOutput().substr(before.size() + closer))) == text);
             closesTag();
@@ -129,23 +120,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             }
             closesTag();
             break;
-        case 4:
-            w.WriteElementValue(static_cast<long>(static_cast<int8_t>(in.Byte())));
+        case 4: // content that closes the start tag
+            w.WriteElementValue(in.ConsumeIntegral<long>());
+            w.WriteElementValue(in.ConsumeBool());
+            w.WriteComment(Text(in));
             closesTag();
             break;
-        case 5:
-            w.WriteElementValue(in.Byte() % 2 == 0);
-            closesTag();
-            break;
-        case 6:
-            w.WriteComment(in.Text());
-            closesTag();
-            break;
-        case 7:
-            w.WriteCData(in.Text());
-            break;
-        case 8:
-            w.WriteRaw(in.Text());
+        case 5: // and content that leaves it open
+            w.WriteCData(Text(in));
+            w.WriteRaw(Text(in));
             break;
         default: {
             const AF_GString formatted = w.ToStringFormatted();

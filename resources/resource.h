@@ -19,3 +19,7 @@
 #define IDS_VU_ABORT 2014
 #define IDS_VU_IGNORE 2015
 #define IDS_VU_UNKNOWN 2016
+// Check images of the check-box tree list boxes (see tree/CheckImages.h)
+#define IDB_VU_CHECK_IMAGES 3336
+// Tab beam bar: the splitter's resize cursor (scripts/gen_tab_cursors.py)
+#define IDC_VU_TAB_SPLITTER 30980

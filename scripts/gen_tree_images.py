@@ -270,17 +270,17 @@ IMAGES = [
 ]
 
 
-def check(images):
+def check(images, palette=PALETTE):
     for name, rows in images:
         if len(rows) != 16 or any(len(r) != 16 for r in rows):
             raise SystemExit(f"image {name!r} is not 16x16")
         for r in rows:
             for ch in r:
-                if ch not in PALETTE:
+                if ch not in palette:
                     raise SystemExit(f"image {name!r}: unknown colour {ch!r}")
 
 
-def write_bmp(path, images):
+def write_bmp(path, images, palette=PALETTE):
     width = 16 * len(images)
     height = 16
     stride = (width * 3 + 3) & ~3
@@ -289,7 +289,7 @@ def write_bmp(path, images):
         row = bytearray()
         for _, rows in images:
             for ch in rows[y]:
-                r, g, b = PALETTE[ch]
+                r, g, b = palette[ch]
                 row += bytes((b, g, r))
         row += bytes(stride - len(row))
         pixels += row

@@ -34,6 +34,8 @@ size_t OperandLength(const WCHAR* operand) {
 constexpr uint64_t kMaxProgramUnits = uint64_t(1) << 26;
 // The start-set analysis is skipped for programs above this size.
 constexpr uint64_t kMaxAnalysedUnits = uint64_t(1) << 20;
+// Matcher scratch kept between searches; anything larger is given back.
+constexpr size_t kKeptScratchBytes = 64 * 1024;
 
 } // namespace
 
@@ -69,6 +71,7 @@ VU_CRegExpression& VU_CRegExpression::operator=(VU_CRegExpression&& other) noexc
     m_foundText = std::move(other.m_foundText);
     m_startSet = std::move(other.m_startSet);
     m_sets = std::move(other.m_sets);
+    m_memoNodes = std::move(other.m_memoNodes);
     // The hint pointers point into the program, which moves with them.
     m_program = other.m_program;
     m_required = other.m_required;
@@ -106,6 +109,7 @@ void VU_CRegExpression::CopyFields(const VU_CRegExpression& other) {
     m_hasStartSet = other.m_hasStartSet;
     m_stepLimit = other.m_stepLimit;
     m_stepLimitExceeded = other.m_stepLimitExceeded;
+    m_memoThreshold = other.m_memoThreshold;
 }
 
 void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
@@ -113,6 +117,7 @@ void VU_CRegExpression::CopyFrom(const VU_CRegExpression& other) {
     m_foundText = other.m_foundText;
     m_startSet = other.m_startSet;
     m_sets = other.m_sets;
+    m_memoNodes = other.m_memoNodes;
     m_program = nullptr;
     m_required = m_firstLiteral = nullptr;
     if (other.m_program) {
@@ -577,11 +582,16 @@ bool VU_CRegExpression::CharRanges::ContainsAbove255(WCHAR c) const {
 
 // Records, for every set node, its members as ranges with a Latin-1 bitmap,
 // so that a membership test does not walk the operand.
+// Also lists the choice nodes (alternatives and repetitions), the places
+// where the failure memo records failed positions.
 void VU_CRegExpression::BuildSetInfo() {
     m_sets.clear();
+    m_memoNodes.clear();
     for (uint64_t at = 0; at < m_programSize;) {
         const WCHAR op = m_program[at];
         const WCHAR* operand = m_program + at + kNodeUnits;
+        if (op == OpAlternative || op == OpStar || op == OpPlus)
+            m_memoNodes.push_back(uint32_t(at));
         at += kNodeUnits;
         if (op != OpInSet && op != OpNotInSet && op != OpLiteral)
             continue;
@@ -711,6 +721,13 @@ int VU_CRegExpression::RegFind(const WCHAR* string) {
     }
     m_stringStart = string;
     m_stepsLeft = m_stepLimit ? m_stepLimit : ULLONG_MAX;
+    // Armed at threshold steps from now (at once for 0); never armed when
+    // the budget runs out first.
+    m_memoTrigger = m_memoNodes.empty() || m_memoThreshold >= m_stepsLeft
+                        ? 0
+                        : std::max(m_stepsLeft - m_memoThreshold - 1, 1ull);
+    m_memoOn = false;
+    m_textLengthKnown = false;
 
     const WCHAR* at = string;
     bool matched = false;
@@ -773,9 +790,71 @@ int VU_CRegExpression::RegFind(const WCHAR* string) {
         matched = false;
         ClearGroups();
     }
+    m_memoOn = false;
+    if (m_stack.capacity() > kKeptScratchBytes / sizeof(uint32_t) ||
+        m_memo.capacity() > kKeptScratchBytes / sizeof(uint64_t))
+        ReleaseScratch();
     if (!matched)
         return -1;
     return FinishMatch(at);
+}
+
+void VU_CRegExpression::ReleaseScratch() {
+    if (m_stack.capacity() > kKeptScratchBytes / sizeof(uint32_t))
+        std::vector<uint32_t>().swap(m_stack);
+    if (m_memo.capacity() > kKeptScratchBytes / sizeof(uint64_t))
+        std::vector<uint64_t>().swap(m_memo);
+}
+
+size_t VU_CRegExpression::GetScratchBytes() const {
+    return m_stack.capacity() * sizeof(uint32_t) + m_memo.capacity() * sizeof(uint64_t);
+}
+
+// Called when the step counter falls to the trigger, that is when the work
+// (steps taken plus characters scanned) reaches the threshold: switches the
+// memo on once the work also exceeds a linear allowance for the text, else
+// moves the trigger to that point.
+[[gnu::noinline]] void VU_CRegExpression::ConsiderFailureMemo(unsigned long long steps,
+                                                              unsigned long long& trigger) {
+    if (m_memoOn)
+        return;
+    if (!m_textLengthKnown) {
+        m_textLength = VU_CRegExpScan::Length(m_stringStart);
+        m_textLengthKnown = true;
+        const unsigned long long positions = m_textLength + 1ull;
+        const unsigned long long allowance = m_memoThreshold == 0          ? 0
+                                             : positions > ULLONG_MAX / 16 ? ULLONG_MAX
+                                                                           : positions * 8;
+        trigger = trigger > allowance ? trigger - allowance : 0;
+        if (steps > trigger)
+            return; // not yet; the trigger now includes the allowance (0: never)
+    }
+    trigger = 0;
+    const unsigned long long positions = m_textLength + 1ull;
+    if (positions > kMaxMemoBits / m_memoNodes.size())
+        return; // too large to record: the search goes on without the memo
+    try {
+        m_memo.assign(size_t((positions * m_memoNodes.size() + 63) / 64), 0);
+    } catch (const std::bad_alloc&) {
+        return;
+    }
+    m_memoOn = true;
+}
+
+// Whether the pair (node, at) has been entered before in this search, which
+// (no path returns to a pair without consuming text) means it failed; marks
+// it entered.
+[[gnu::noinline]] bool VU_CRegExpression::TestAndSetFailed(const WCHAR* node, const WCHAR* at) {
+    const uint32_t offset = uint32_t(node - m_program);
+    const size_t slot = size_t(std::lower_bound(m_memoNodes.begin(), m_memoNodes.end(), offset) -
+                               m_memoNodes.begin());
+    const uint64_t bit = uint64_t(at - m_stringStart) * m_memoNodes.size() + slot;
+    uint64_t& word = m_memo[size_t(bit >> 6)];
+    const uint64_t mask = uint64_t(1) << (bit & 63);
+    if (word & mask)
+        return true;
+    word |= mask;
+    return false;
 }
 
 int VU_CRegExpression::FinishMatch(const WCHAR* position) {
@@ -815,6 +894,24 @@ bool VU_CRegExpression::TryAt(const WCHAR* position) {
     m_groupStart[0] = position;
     m_groupEnd[0] = m_input;
     return true;
+}
+
+// Whether the single-character node `simple` accepts c (never the NUL).
+bool VU_CRegExpression::MatchesOne(const WCHAR* simple, WCHAR c) const {
+    if (!c)
+        return false;
+    switch (OpOf(simple)) {
+    case OpAnyChar:
+        return true;
+    case OpLiteral:
+        return *OperandOf(simple) == c;
+    case OpInSet:
+        return InSet(simple, c);
+    case OpNotInSet:
+        return !InSet(simple, c);
+    default:
+        return false;
+    }
 }
 
 size_t VU_CRegExpression::CountRepeat(const WCHAR* node, const WCHAR* at) const {
@@ -879,13 +976,21 @@ const WCHAR* VU_CRegExpression::SkipDeadAlternatives(const WCHAR* alt, WCHAR c) 
 //   choice of the remaining alternatives  [alt offset:26][distance:4][0]
 //   group boundary passed                 [distance:25][slot:5][2]
 //   choice of shorter repetitions         [count:64][distance:64][node offset:30][1]
+//   choice to stop a repetition here      [node offset:26][distance:4][3]
+// (the last only while the failure memo is on: repetitions then take one
+// character per step and leave this record before each).
 // A distance field of all ones means the distance follows in the two words
 // below the header. A failure pops back to the latest choice. On success the
 // group positions are read from the boundary records, the latest per group
 // winning, which is what the recursive matcher records while it returns.
 namespace {
 
-enum RecordKind : uint32_t { kBranchRecord = 0, kRepeatRecord = 1, kGroupRecord = 2 };
+enum RecordKind : uint32_t {
+    kBranchRecord = 0,
+    kRepeatRecord = 1,
+    kGroupRecord = 2,
+    kStopRecord = 3
+};
 constexpr uint32_t kBranchDistanceEscape = 15;
 constexpr uint32_t kGroupDistanceEscape = (1u << 25) - 1;
 
@@ -919,6 +1024,7 @@ inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
         }
         break;
     case kBranchRecord:
+    case kStopRecord:
         r.payload = (header >> 2) & ((1u << 26) - 1);
         r.distance = header >> 28;
         if (r.distance == kBranchDistanceEscape) {
@@ -935,7 +1041,48 @@ inline Record DecodeRecord(const std::vector<uint32_t>& stack, size_t end) {
     return r;
 }
 
+// A choice record (branch or stop) for the node at `offset`, input at pos.
+inline void PushChoice(std::vector<uint32_t>& stack, uint64_t& top, RecordKind kind,
+                       uint32_t offset, uint64_t pos) {
+    const uint64_t distance = pos - top;
+    top = pos;
+    uint32_t field = uint32_t(distance);
+    if (distance >= kBranchDistanceEscape) {
+        PushWide(stack, distance);
+        field = kBranchDistanceEscape;
+    }
+    stack.push_back(kind | offset << 2 | field << 28);
+}
+
 } // namespace
+
+// A repetition while the failure memo is on: one character per step, with
+// before each the choice to stop there, which the greedy order tries after
+// the longer runs. Match means: go on to the next node at `in`. Kept out of
+// MatchFrom so that the plain path stays small.
+[[gnu::noinline]] VU_CRegExpression::MatchResult
+VU_CRegExpression::RepeatOneByOne(const WCHAR* node, WCHAR lookAhead, const WCHAR*& in,
+                                  uint64_t& top, unsigned long long& steps) {
+    const WCHAR* simple = OperandOf(node);
+    if (OpOf(node) == OpPlus) {
+        if (!MatchesOne(simple, *in))
+            return MatchResult::Fail;
+        ++in;
+    }
+    for (;;) {
+        if (TestAndSetFailed(node, in))
+            return MatchResult::Fail;
+        const bool canStop = !lookAhead || *in == lookAhead;
+        if (!MatchesOne(simple, *in))
+            return canStop ? MatchResult::Match : MatchResult::Fail;
+        if (canStop)
+            PushChoice(m_stack, top, kStopRecord, uint32_t(node - m_program),
+                       uint64_t(in - m_stringStart));
+        ++in;
+        if (--steps == 0)
+            return MatchResult::OutOfSteps;
+    }
+}
 
 VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) {
     const WCHAR* const base = m_stringStart;
@@ -943,20 +1090,19 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
     std::vector<uint32_t>& stack = m_stack;
     stack.clear();
     unsigned long long steps = m_stepsLeft;
+    unsigned long long trigger = m_memoTrigger;
     const WCHAR* in = m_input;
     const WCHAR* node = start;
     uint64_t top = uint64_t(in - base); // position of the top record
 
     auto offsetOf = [program](const WCHAR* p) { return uint32_t(p - program); };
+    auto leave = [&](MatchResult result) {
+        m_stepsLeft = result == MatchResult::OutOfSteps ? 0 : steps;
+        m_memoTrigger = trigger;
+        return result;
+    };
     auto pushBranch = [&](const WCHAR* alt, uint64_t pos) {
-        const uint64_t distance = pos - top;
-        top = pos;
-        uint32_t field = uint32_t(distance);
-        if (distance >= kBranchDistanceEscape) {
-            PushWide(stack, distance);
-            field = kBranchDistanceEscape;
-        }
-        stack.push_back(kBranchRecord | offsetOf(alt) << 2 | field << 28);
+        PushChoice(stack, top, kBranchRecord, offsetOf(alt), pos);
     };
     auto pushGroup = [&](uint32_t slot, uint64_t pos) {
         const uint64_t distance = pos - top;
@@ -979,9 +1125,10 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
         // ---- advance along the program until success or failure
         bool failed = false;
         while (!failed) {
-            if (--steps == 0) {
-                m_stepsLeft = 0;
-                return MatchResult::OutOfSteps;
+            if (--steps <= trigger) {
+                if (steps == 0)
+                    return leave(MatchResult::OutOfSteps);
+                ConsiderFailureMemo(steps, trigger);
             }
             if (!node) {
                 failed = true;
@@ -1033,6 +1180,10 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
             case OpLoopBack:
                 break;
             case OpAlternative: {
+                if (m_memoOn && TestAndSetFailed(node, in)) {
+                    failed = true;
+                    break;
+                }
                 if (!next || OpOf(next) != OpAlternative) {
                     next = OperandOf(node); // a single choice
                     break;
@@ -1054,13 +1205,20 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
             case OpPlus: {
                 const size_t minimum = op == OpStar ? 0 : 1;
                 const WCHAR lookAhead = next && OpOf(next) == OpLiteral ? *OperandOf(next) : 0;
+                if (m_memoOn) {
+                    const MatchResult r = RepeatOneByOne(node, lookAhead, in, top, steps);
+                    if (r == MatchResult::OutOfSteps)
+                        return leave(r);
+                    failed = r == MatchResult::Fail;
+                    break;
+                }
                 const size_t count = CountRepeat(OperandOf(node), in);
+                if (trigger) // the characters scanned count as work
+                    trigger += std::min<unsigned long long>(count, ULLONG_MAX - trigger);
                 if (m_stepLimit) {
                     const unsigned long long cost = count >> 4;
-                    if (cost >= steps) {
-                        m_stepsLeft = 0;
-                        return MatchResult::OutOfSteps;
-                    }
+                    if (cost >= steps)
+                        return leave(MatchResult::OutOfSteps);
                     steps -= cost;
                 }
                 if (node == OperandOf(program) && in == m_input) {
@@ -1104,8 +1262,7 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
                     end -= r.words;
                 }
                 m_input = in;
-                m_stepsLeft = steps;
-                return MatchResult::Match;
+                return leave(MatchResult::Match);
             }
             default:
                 if (op > OpGroupOpen && op < OpGroupOpen + kGroupCount)
@@ -1123,14 +1280,10 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
         // ---- backtrack to the latest choice
         bool resumed = false;
         while (!resumed) {
-            if (stack.empty()) {
-                m_stepsLeft = steps;
-                return MatchResult::Fail;
-            }
-            if (--steps == 0) {
-                m_stepsLeft = 0;
-                return MatchResult::OutOfSteps;
-            }
+            if (stack.empty())
+                return leave(MatchResult::Fail);
+            if (--steps == 0)
+                return leave(MatchResult::OutOfSteps);
             const Record r = DecodeRecord(stack, stack.size());
             const uint64_t pos = top;
             if (r.kind == kGroupRecord) {
@@ -1149,6 +1302,14 @@ VU_CRegExpression::MatchResult VU_CRegExpression::MatchFrom(const WCHAR* start) 
                 if (rest)
                     pushBranch(rest, pos);
                 node = OperandOf(alt);
+                resumed = true;
+                continue;
+            }
+            if (r.kind == kStopRecord) {
+                stack.resize(stack.size() - r.words);
+                top = pos - r.distance;
+                in = base + pos;
+                node = NextNode(program + r.payload);
                 resumed = true;
                 continue;
             }

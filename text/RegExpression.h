@@ -15,6 +15,18 @@
 // keeps its choice points on an explicit heap stack, so long subjects cannot
 // overflow the machine stack; an optional step budget bounds its running time.
 //
+// The dialect has no back-references and refuses repeats of items that can
+// match empty, so whether the rest of the program matches from a node at a
+// text position depends on that pair alone, and no path returns to a pair
+// without consuming text. A pair that failed once therefore fails again, from
+// any later start. Once a search has done clearly more work than a linear
+// scan would (see SetFailureMemoThreshold), the matcher records the failed
+// pairs of its choice nodes in a bitmap and prunes them, and repetitions walk
+// one character per step; from then on the search costs at most in
+// proportion to text length x program length, and its result is the one the
+// plain order of attempts gives. Scratch memory above a modest size is
+// released at the end of every search.
+//
 // Copying duplicates the program and the found text (each object owns its
 // own); the group positions of a copy point into the same searched string.
 
@@ -81,10 +93,25 @@ public:
     // Step budget: 0 (the default) means unlimited. When a search runs out of
     // steps RegFind returns -1 and IsStepLimitExceeded() is true until the
     // next search. A step is one node visited or one backtrack; scanning a
-    // repetition costs one step per 16 characters.
+    // repetition costs one step per 16 characters (per character while the
+    // failure memo is on).
     void SetStepLimit(unsigned long long limit) { m_stepLimit = limit; }
     unsigned long long GetStepLimit() const { return m_stepLimit; }
     bool IsStepLimitExceeded() const { return m_stepLimitExceeded; }
+
+    // Failure memo: it is switched on when a search's work (nodes visited,
+    // backtracks and characters scanned by repetitions) passes this threshold
+    // plus eight per character of the text, so ordinary searches never
+    // allocate it. 0 switches it on at the first node (tests use that to check
+    // that the memo changes no result). A text x program bitmap above
+    // kMaxMemoBits is not allocated; such a search runs without the memo.
+    static constexpr unsigned long long kDefaultMemoThreshold = 1ull << 16;
+    static constexpr unsigned long long kMaxMemoBits = 1ull << 30; // 128 MB
+    void SetFailureMemoThreshold(unsigned long long work) { m_memoThreshold = work; }
+    unsigned long long GetFailureMemoThreshold() const { return m_memoThreshold; }
+    // Bytes of matcher scratch (backtracking stack, failure memo) kept
+    // between searches.
+    size_t GetScratchBytes() const;
 
     // Attributes (mainly for tests and diagnostics)
     bool IsCompiled() const { return m_compiled != 0; }
@@ -148,6 +175,13 @@ private:
     bool InSet(const WCHAR* node, WCHAR c) const;
     const SetInfo* FindSetInfo(const WCHAR* node) const;
     const WCHAR* SkipDeadAlternatives(const WCHAR* alt, WCHAR c) const;
+    bool MatchesOne(const WCHAR* simple, WCHAR c) const;
+    MatchResult RepeatOneByOne(const WCHAR* node, WCHAR lookAhead, const WCHAR*& in, uint64_t& top,
+                               unsigned long long& steps);
+    // Failure memo
+    void ConsiderFailureMemo(unsigned long long steps, unsigned long long& trigger);
+    bool TestAndSetFailed(const WCHAR* node, const WCHAR* at);
+    void ReleaseScratch();
 
     // Compile-time analysis
     void ComputeHints(int flags);
@@ -199,4 +233,16 @@ private:
     unsigned long long m_stepsLeft = 0; // remaining in the current search
     bool m_stepLimitExceeded = false;   // the last search ran out of steps
     std::vector<uint32_t> m_stack;      // backtracking records (reused)
+
+    // Failure memo: one bit per (choice node, text position) pair
+    unsigned long long m_memoThreshold = kDefaultMemoThreshold;
+    std::vector<uint32_t> m_memoNodes; // offsets of the choice nodes, ascending
+    std::vector<uint64_t> m_memo;      // bit pos * m_memoNodes.size() + slot
+    bool m_memoOn = false;             // set during a search that needs it
+    bool m_textLengthKnown = false;    // m_textLength is valid for this search
+    size_t m_textLength = 0;           // units of the searched string
+    // The memo is considered when the step counter falls to m_memoTrigger
+    // (0: not armed). Characters scanned by repetitions raise the trigger, so
+    // that they count as work without a second counter on every node.
+    unsigned long long m_memoTrigger = 0;
 };

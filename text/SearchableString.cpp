@@ -363,6 +363,8 @@ VU_CSearchableString& VU_CSearchableString::ReplaceAt(int index, int count, cons
 int VU_CSearchableString::CheckForWholeWord(int index, int length) const {
     if (index < 0)
         return index;
+    if (length < 0 || index > GetLength() - length)
+        return -1; // not within the text
     const DelimiterSet delimiters(m_tokenDelimiters);
     return IsWholeWord(GetString(), GetLength(), index, length, delimiters, false) ? index : -1;
 }
@@ -476,36 +478,7 @@ int VU_CSearchableString::FindRegularExp(const WCHAR* pattern, int start) {
 // ---- Replacing ------------------------------------------------------------
 
 bool VU_CSearchableString::IsReplaceAtOverridden() const {
-#if defined(__GXX_ABI_VERSION) && (defined(__x86_64__) || defined(__i386__))
-    // Itanium C++ ABI (g++, clang, mingw-w64 on x86): a pointer to a virtual
-    // member function holds 1 + the byte offset of its vtable slot. The entry
-    // in that slot of this object's vtable is our own ReplaceAt unless the
-    // dynamic type overrides it.
-    using ReplaceFn = VU_CSearchableString& (VU_CSearchableString::*)(int, int, const WCHAR*);
-    static_assert(sizeof(ReplaceFn) == 2 * sizeof(std::uintptr_t));
-    static const std::uintptr_t slot = [] {
-        const ReplaceFn pmf = &VU_CSearchableString::ReplaceAt;
-        std::uintptr_t words[2];
-        std::memcpy(words, &pmf, sizeof pmf);
-        return words[0];
-    }();
-    auto entry = [](const VU_CSearchableString* object) {
-        const char* vtable;
-        std::memcpy(&vtable, static_cast<const void*>(object), sizeof vtable);
-        const void* fn;
-        std::memcpy(&fn, vtable + (slot - 1), sizeof fn);
-        return fn;
-    };
-    if ((slot & 1) == 0) // not laid out as expected: assume overridden
-        return typeid(*this) != typeid(VU_CSearchableString);
-    static const void* const ownEntry = [&entry] {
-        const VU_CSearchableString probe;
-        return entry(&probe);
-    }();
-    return entry(this) != ownEntry;
-#else
     return typeid(*this) != typeid(VU_CSearchableString);
-#endif
 }
 
 namespace {

@@ -12,9 +12,13 @@
 //
 // The editing operations and the searches are virtual so that a derived class
 // can keep its own bookkeeping in step with every change of the text: every
-// replacement goes through ReplaceAt. When the dynamic type does not override
-// ReplaceAt, replace-all builds the new text in one pass instead (same result,
-// time linear in the text).
+// replacement goes through ReplaceAt. For an object of exactly this class,
+// replace-all builds the new text in one pass instead (same result, time
+// linear in the text); any derived class goes through ReplaceAt.
+//
+// Regular-expression searches have a step budget (SetRegularExpStepLimit, an
+// addition to the classic interface) so that a pattern typed by a user cannot
+// freeze the host; the default, 0, is unlimited.
 //
 // Bad input gives a clear result: null texts count as empty, an empty search
 // text is never found, negative start positions count as 0, inserts and
@@ -59,6 +63,14 @@ public:
     void SetTokenDelimiters(const CString& delimiters);
     CString& GetTokenDelimiters() { return m_tokenDelimiters; }
     const CString& GetTokenDelimiters() const { return m_tokenDelimiters; }
+    // Step budget of each regular-expression search (see VU_CRegExpression);
+    // 0, the default, is unlimited. A search that runs out of steps finds
+    // nothing; a replace stops at that search and keeps the replacements made
+    // before it. Copies and assignments between searchable strings carry it.
+    void SetRegularExpStepLimit(unsigned long long limit) { m_regExp.SetStepLimit(limit); }
+    unsigned long long GetRegularExpStepLimit() const { return m_regExp.GetStepLimit(); }
+    // True when the last regular-expression search ran out of steps.
+    bool IsRegularExpStepLimitExceeded() const { return m_regExp.IsStepLimitExceeded(); }
 
     // Overridables, in this order (derived classes rely on it).
     //
@@ -119,12 +131,14 @@ public:
     VU_CSearchableString GetDelimitedField(const WCHAR* open, const WCHAR* close, int n) const;
 
 protected:
-    // index when the length characters at index form a whole word, else -1;
-    // a negative index is returned unchanged.
+    // index when the length characters at index form a whole word, else -1
+    // (also when they do not lie within the text); a negative index is
+    // returned unchanged.
     int CheckForWholeWord(int index, int length) const;
     int InternalReverseFind(const WCHAR* text, int start, BOOL wholeWord, bool noCase);
-    // True when the dynamic type overrides ReplaceAt, so replace-all has to
-    // go through it one replacement at a time.
+    // True unless the dynamic type is exactly this class: a derived class may
+    // keep bookkeeping in ReplaceAt, so its replace-all goes through ReplaceAt
+    // one replacement at a time.
     bool IsReplaceAtOverridden() const;
 
     VU_CRegExpression m_regExp; // last compiled pattern and match state

@@ -283,17 +283,6 @@ CString Self::TextWithoutSoftLineBreaks() const {
 
 // ---- Selection ----------------------------------------------------------------
 
-void Self::MoveBreaksForEdit(int first, int end, int insertedLength) {
-    const int change = insertedLength - (end - first);
-    for (INT_PTR i = 0; i < m_softLineBreaks.GetSize(); ++i) {
-        int& p = m_softLineBreaks[i];
-        if (p >= end)
-            p += change;
-        else if (p > first)
-            p = std::min(p, first + insertedLength);
-    }
-}
-
 int Self::ReplaceSelectionWith(const CString& text) {
     if (m_selectionStart == -1 && m_selectionEnd == -1)
         return 0;
@@ -310,8 +299,9 @@ int Self::ReplaceSelectionWith(const CString& text) {
     vu::String replaced;
     replaced.reserve(static_cast<std::size_t>(n - (end - first) + text.GetLength()));
     replaced.append(old.substr(0, first)).append(text.View()).append(old.substr(end));
+    // The break positions stay as they were: the breaks go back where they
+    // stood before the edit, and the host wraps the text again.
     CString::operator=(CString(std::move(replaced)));
-    MoveBreaksForEdit(first, end, text.GetLength());
     m_selectionStart = first;
     m_selectionEnd = first + text.GetLength() - 1;
     return 1;

@@ -17,7 +17,8 @@
 //    before it; each comparison uses the bounds as already moved by the
 //    breaks before (so with several breaks the moved bounds are approximate).
 //  - ReplaceSelectionWith treats the end as inclusive, so after a search it
-//    replaces the match and the character after it; FindN and the regular
+//    replaces the match and the character after it, and puts the soft breaks
+//    back at their old positions (re-wrap after editing); FindN and the regular
 //    expression search report "not found" as the text length.
 //  - The edits (InsertAt, DeleteAt, ReplaceAt, and the replace-all paths
 //    that go through them) re-assign the text: the selection becomes (0, -1)
@@ -75,7 +76,10 @@ public:
     int WordWrapText(int lineLength);
 
     // Replaces the selection, its end counted as inclusive; the selection
-    // then covers the new text. 0 when there is no selection, else 1.
+    // then covers the new text. 0 when there is no selection, else 1. The
+    // soft breaks are put back at the positions they had before the edit
+    // (they stand replaced meanwhile, so they are not located anew): a
+    // caller wraps the text again after editing.
     int ReplaceSelectionWith(const CString& text);
 
     // Overridables: the base operations on the text without soft breaks.
@@ -139,9 +143,6 @@ private:
     bool FitsWithBreaksReplaced(int breakLength, const CString& text) const;
     // Stands `text` in place of the breakLength characters at every break.
     void SubstituteAtBreaks(int breakLength, const CString& text);
-    // Keeps the break positions with the text when [first, end) becomes
-    // insertedLength characters (positions of the text without breaks).
-    void MoveBreaksForEdit(int first, int end, int insertedLength);
     template <class Operation> int ReplaceAllInOnePass(Operation replace);
 
     BOOL m_breaksReplaced;             // TRUE while m_replacement stands at the breaks

@@ -76,8 +76,10 @@ std::vector<int> ColumnStarts(int columns, const std::vector<int>& tabStops, int
     for (int k = 1; k < columns; ++k) {
         const int stop =
             k <= m ? tabStops[k - 1] : (m > 0 ? tabStops[m - 1] : 0) + (k - m) * spacing;
+        // A stop that does not lie right of the previous column's start
+        // would leave that column no room: it starts one spacing further.
         const int x = stop * unit;
-        starts.push_back(x > starts.back() ? x : starts.back());
+        starts.push_back(x > starts.back() ? x : starts.back() + spacing * unit);
     }
     return starts;
 }

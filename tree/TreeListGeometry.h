@@ -82,8 +82,8 @@ std::vector<vu::StringView> SplitColumns(vu::StringView text);
 
 // Left edge of each column, in pixels from the text start: column 0 at 0,
 // column k at tabStops[k-1] average characters; columns beyond the tab stops
-// continue at the last stop's spacing. A column never starts left of the
-// previous one's start.
+// continue at the last stop's spacing. A stop at or left of the previous
+// column's start gives that column the spacing (so every column keeps room).
 std::vector<int> ColumnStarts(int columns, const std::vector<int>& tabStops, int avgCharWidth);
 
 // Measures the width in pixels of a piece of text.

@@ -20,10 +20,12 @@ AF_GString ToGString(const CString& text) {
     return AF_GString(vu::String(text.GetString(), text.GetLength()));
 }
 
-// Pushes the children of node on a pre-order work stack, first child on top.
-template <typename Stack> void PushChildren(Stack& stack, CTreeNode* node) {
+// Pushes the children of node on a pre-order work stack, first child on
+// top. The array interface allows null entries; every walk skips them.
+template <typename Stack> void PushChildren(Stack& stack, const CTreeNode* node) {
     for (int i = node->GetNumberOfChildren() - 1; i >= 0; --i)
-        stack.push_back(node->GetChild(i));
+        if (CTreeNode* child = node->GetChild(i))
+            stack.push_back(child);
 }
 
 // Whether the first `length` units of a and b (each cut at its end) are equal
@@ -101,15 +103,13 @@ int CTreeNode::GetSelectedImageIndex(int state) const {
 // ---- Tree queries ----------------------------------------------------------
 
 int CTreeNode::GetNumberOfNodes() const {
-    int count = 1;
+    int count = 0;
     std::vector<const CTreeNode*> pending{this};
     while (!pending.empty()) {
         const CTreeNode* node = pending.back();
         pending.pop_back();
-        count += node->GetNumberOfChildren();
-        for (int i = 0; i < node->GetNumberOfChildren(); ++i)
-            if (node->GetChild(i)->GetNumberOfChildren() > 0)
-                pending.push_back(node->GetChild(i));
+        ++count;
+        PushChildren(pending, node);
     }
     return count;
 }
@@ -122,9 +122,9 @@ int CTreeNode::ComputeNumberOfExpandedNodesShowing() const {
         pending.pop_back();
         if (!node->IsExpanded())
             continue;
-        count += node->GetNumberOfChildren();
-        for (int i = 0; i < node->GetNumberOfChildren(); ++i)
-            pending.push_back(node->GetChild(i));
+        const std::size_t before = pending.size();
+        PushChildren(pending, node);
+        count += static_cast<int>(pending.size() - before);
     }
     return count;
 }

@@ -1,10 +1,11 @@
-// AF_CPath against the real file system, in a fresh temporary directory:
-// natively a '/tmp/...' path (the root stands for the drive), under Wine a
-// 'C:\...' path.
+// AF_CPath against the real file system, in a fresh temporary directory,
+// written by Windows rules in both builds: natively '\tmp\...' (the root
+// stands for the drive), under Wine 'C:\...'.
 #include "foundation/Path.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <filesystem>
 #include <fstream>
@@ -14,11 +15,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-#ifdef _WIN32
 constexpr WCHAR kSep = VU_T('\\');
-#else
-constexpr WCHAR kSep = VU_T('/');
+
+// The name std::filesystem takes for a path written by Windows rules.
+fs::path Fs(vu::String path) {
+#ifndef _WIN32
+    std::replace(path.begin(), path.end(), VU_T('\\'), VU_T('/'));
 #endif
+    return fs::path(path);
+}
 
 std::string Ascii(vu::StringView s) {
     std::string out;
@@ -40,6 +45,7 @@ protected:
         m_root = m_dir.wstring();
 #else
         m_root = m_dir.u16string();
+        std::replace(m_root.begin(), m_root.end(), VU_T('/'), VU_T('\\'));
 #endif
     }
     void TearDown() override {
@@ -56,10 +62,10 @@ protected:
         return p;
     }
     void MakeFile(const vu::String& path) const {
-        std::ofstream(fs::path(path)) << "x";
+        std::ofstream(Fs(path)) << "x";
     }
     static bool IsDir(const vu::String& path) {
-        return fs::is_directory(fs::path(path));
+        return fs::is_directory(Fs(path));
     }
 
     fs::path m_dir;
@@ -80,7 +86,7 @@ TEST_F(PathFileSystem, CreateDirMakesEveryMissingDirectoryOrFails) {
 
     MakeFile(In({VU_T("plain")}));
     EXPECT_FALSE(AF_CPath(In({VU_T("plain"), VU_T("sub"), VU_T("x.txt")}).c_str()).CreateDir());
-    EXPECT_FALSE(fs::exists(fs::path(In({VU_T("plain"), VU_T("sub")}))));
+    EXPECT_FALSE(fs::exists(Fs(In({VU_T("plain"), VU_T("sub")}))));
     for (const vu::String& bad :
          {vu::String(VU_T("relative\\dir\\x.txt")),
           vu::String(VU_T("\\\\machine\\share\\dir\\x.txt")), vu::String(VU_T("x.txt")),
@@ -98,13 +104,13 @@ TEST_F(PathFileSystem, DeleteDirRemovesOnlyAnEmptyExistingDirectory) {
     EXPECT_FALSE(p.DeleteDir());
     ASSERT_TRUE(p.CreateDir());
     EXPECT_TRUE(p.DeleteDir());
-    EXPECT_FALSE(fs::exists(fs::path(In({VU_T("gone")}))));
+    EXPECT_FALSE(fs::exists(Fs(In({VU_T("gone")}))));
 
     const vu::String file = In({VU_T("full"), VU_T("x.txt")});
     ASSERT_TRUE(AF_CPath(file.c_str()).CreateDir());
     MakeFile(file);
     EXPECT_FALSE(AF_CPath::DeleteDir(In({VU_T("full")}).c_str()));
-    fs::remove(fs::path(file));
+    fs::remove(Fs(file));
     EXPECT_TRUE(AF_CPath::DeleteDir(In({VU_T("full")}).c_str()));
     EXPECT_FALSE(AF_CPath::DeleteDir(nullptr));
 
@@ -159,11 +165,7 @@ TEST_F(PathFileSystem, LongNamesComeFromTheFileSystem) {
     EXPECT_EQ(Ascii(name.View()), "C:");
     EXPECT_TRUE(AF_CPath::GetLongName(VU_T("d:\\"), &name));
     EXPECT_EQ(Ascii(name.View()), "D:\\");
-#ifdef _WIN32
-    EXPECT_FALSE(AF_CPath::GetLongName(VU_T("\\"), &name));
-#else
-    EXPECT_TRUE(AF_CPath::GetLongName(VU_T("/"), &name)); // the root stands for the drive
-#endif
+    EXPECT_FALSE(AF_CPath::GetLongName(VU_T("\\"), &name)); // a root has no name
     MakeFile(In({VU_T("b.log")}));
     MakeFile(In({VU_T("a.log")}));
     EXPECT_TRUE(AF_CPath::GetLongName(In({VU_T("*.log")}).c_str(), &name));

@@ -136,22 +136,6 @@ TEST(CArray, AddingAnElementOfTheArrayItselfSurvivesReallocation) {
 
 // ---- the typed arrays --------------------------------------------------------
 
-TEST(TypedArrays, StringArrayTakesLiteralsAndKeepsValues) {
-    CStringArray a;
-    a.Add(VU_T("b"));
-    a.InsertAt(0, CString(VU_T("a")));
-    a.SetAt(1, VU_T("B"));
-    a.SetAtGrow(3, VU_T("d"));
-    vu::String joined;
-    for (const CString& s : a)
-        joined += vu::String(s.View()) + VU_T(",");
-    EXPECT_EQ(joined, VU_T("a,B,,d,"));
-    EXPECT_THROW(a.SetAt(4, VU_T("x")), CInvalidArgException);
-    CStringArray copy(a);
-    copy[0] = VU_T("z");
-    EXPECT_EQ(a[0], VU_T("a")); // copies are independent
-}
-
 struct Counted : CObject {
     explicit Counted(int& live) : m_live(live) { ++m_live; }
     ~Counted() override { --m_live; }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 namespace {
@@ -221,16 +220,6 @@ TEST(CString, TrimRemovesTheGivenSetFromTheEndsOnly) {
     });
 }
 
-TEST(CString, CaseChangesUseTheSimpleMapping) {
-    Check<Text>({
-        {"upper", S(CString(VU_T("Stra\u00DFe \u00C4\u00D6")).MakeUpper()),
-         VU_T("STRA\u00DFE \u00C4\u00D6")},
-        {"lower", S(CString(VU_T("\u0130I\u00C4\u0416")).MakeLower()), VU_T("ii\u00E4\u0436")},
-        {"dotless i", S(CString(VU_T("\u0131i")).MakeUpper()), VU_T("II")},
-        {"reverse", S(CString(VU_T("abc")).MakeReverse()), VU_T("cba")},
-    });
-}
-
 // ---- comparison --------------------------------------------------------------
 
 const WCHAR kHighSurrogate[] = {0xD800, 0};
@@ -259,53 +248,6 @@ TEST(CString, CompareIsCodeUnitOrderAndNoCaseFoldsToLower) {
         EXPECT_EQ(sign(a.Compare(r.b)), r.compare);
         EXPECT_EQ(sign(a.CompareNoCase(r.b)), r.noCase);
     }
-}
-
-TEST(CString, OperatorsCombineStringsPointersAndCharacters) {
-    const CString b(VU_T("b"));
-    EXPECT_EQ(S(VU_T("a") + b + VU_T('c')), VU_T("abc"));
-    EXPECT_EQ(S(VU_T('x') + b), VU_T("xb"));
-    EXPECT_EQ(S(b + b), VU_T("bb"));
-    EXPECT_EQ(S(CString(VU_T("p")) + VU_T("q")), VU_T("pq"));
-    CString s;
-    s += VU_T("1");
-    s += CString(VU_T("2"));
-    s += VU_T('3');
-    s += static_cast<const WCHAR*>(nullptr);
-    EXPECT_EQ(S(s), VU_T("123"));
-
-    EXPECT_TRUE(b == VU_T("b"));
-    EXPECT_TRUE(VU_T("b") == b);
-    EXPECT_TRUE(b != VU_T("B"));
-    EXPECT_TRUE(CString(VU_T("a")) < b);
-    EXPECT_TRUE(VU_T("a") < b);
-    EXPECT_TRUE(b > VU_T("a"));
-    EXPECT_TRUE(b >= VU_T("b") && b <= VU_T("b"));
-    EXPECT_FALSE(CString(VU_T("\u00E4")) < CString(VU_T("z")));
-}
-
-TEST(CString, StandardStringsAndDerivedOnesConvertWithoutAmbiguity) {
-    struct Derived : vu::String {
-        using vu::String::basic_string;
-    };
-    const vu::String plain(VU_T("std"));
-    const Derived derived(VU_T("derived"));
-    CString s = plain;
-    s += derived;
-    s += plain;
-    EXPECT_EQ(S(s), VU_T("stdderivedstd"));
-    s = derived;
-    EXPECT_EQ(S(s), VU_T("derived"));
-    EXPECT_TRUE(s == CString(derived));
-}
-
-TEST(CString, HashesEqualContentAlike) {
-    std::unordered_set<CString> set;
-    set.insert(CString(VU_T("alpha")));
-    set.insert(CString(VU_T("al")) + VU_T("pha"));
-    set.insert(CString(VU_T("Alpha")));
-    EXPECT_EQ(set.size(), 2u);
-    EXPECT_EQ(set.count(CString(VU_T("alpha"))), 1u);
 }
 
 } // namespace

@@ -46,23 +46,6 @@ TEST(CRect, HasTheLayoutOfTheSystemRect) {
     EXPECT_EQ(p, CPoint(11, 10));
 }
 
-TEST(CRect, NormalizeRectSwapsReversedSides) {
-    struct Row {
-        const char* name;
-        CRect in, want;
-    } rows[] = {
-        {"both reversed", CRect(10, 20, 0, 5), CRect(0, 5, 10, 20)},
-        {"x reversed", CRect(10, 0, 0, 5), CRect(0, 0, 10, 5)},
-        {"y reversed", CRect(0, 5, 10, 0), CRect(0, 0, 10, 5)},
-        {"already normal", CRect(1, 2, 3, 4), CRect(1, 2, 3, 4)},
-    };
-    for (Row& r : rows) {
-        SCOPED_TRACE(r.name);
-        r.in.NormalizeRect();
-        EXPECT_EQ(r.in, r.want);
-    }
-}
-
 TEST(CRect, PtInRectIncludesTopLeftAndExcludesBottomRight) {
     const CRect r(0, 0, 10, 10);
     struct Row {
@@ -78,13 +61,6 @@ TEST(CRect, PtInRectIncludesTopLeftAndExcludesBottomRight) {
     }
     EXPECT_FALSE(CRect(5, 5, 5, 5).PtInRect(CPoint(5, 5)));   // empty
     EXPECT_FALSE(CRect(10, 10, 0, 0).PtInRect(CPoint(5, 5))); // reversed
-}
-
-TEST(CRect, EmptyAndNullDiffer) {
-    EXPECT_TRUE(CRect(5, 5, 5, 9).IsRectEmpty() && !CRect(5, 5, 5, 9).IsRectNull());
-    EXPECT_TRUE(CRect(5, 5, 4, 9).IsRectEmpty());
-    EXPECT_TRUE(CRect().IsRectEmpty() && CRect().IsRectNull());
-    EXPECT_FALSE(CRect(0, 0, 1, 1).IsRectEmpty());
 }
 
 TEST(CRect, IntersectAndUnionStoreEmptyResultsAsZeros) {
@@ -137,30 +113,6 @@ TEST(CRect, SubtractRectCutsOnlyWholeSides) {
         EXPECT_EQ(out.SubtractRect(base, r.cut), r.left);
         EXPECT_EQ(out, r.want);
     }
-}
-
-TEST(CRect, InflateDeflateAndOffsetOverloads) {
-    CRect r(10, 10, 20, 20);
-    r.InflateRect(1, 2);
-    EXPECT_EQ(r, CRect(9, 8, 21, 22));
-    r.DeflateRect(CSize(1, 2));
-    EXPECT_EQ(r, CRect(10, 10, 20, 20));
-    r.InflateRect(CRect(1, 2, 3, 4));
-    EXPECT_EQ(r, CRect(9, 8, 23, 24));
-    r.DeflateRect(1, 2, 3, 4);
-    EXPECT_EQ(r, CRect(10, 10, 20, 20));
-    EXPECT_EQ(r + CRect(1, 1, 1, 1), CRect(9, 9, 21, 21));
-    EXPECT_EQ(r - CRect(1, 1, 1, 1), CRect(11, 11, 19, 19));
-    EXPECT_EQ(r + CPoint(5, -5), CRect(15, 5, 25, 15)); // a point moves, a rect inflates
-    EXPECT_EQ(r - CSize(5, 5), CRect(5, 5, 15, 15));
-    r.MoveToXY(CPoint(100, 200));
-    EXPECT_EQ(r, CRect(100, 200, 110, 210));
-}
-
-TEST(CRect, CenterPointTruncatesTowardZero) {
-    EXPECT_EQ(CRect(0, 0, 5, 5).CenterPoint(), CPoint(2, 2));
-    EXPECT_EQ(CRect(-5, -5, 0, 0).CenterPoint(), CPoint(-2, -2));
-    EXPECT_EQ(CRect(-3, 1, 4, 8).CenterPoint(), CPoint(0, 4));
 }
 
 TEST(CPointAndCSize, DifferencesAndPackedCoordinates) {

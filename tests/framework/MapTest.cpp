@@ -93,17 +93,6 @@ TEST(CMap, RemovingTheReturnedKeyWhileIteratingVisitsEveryKeyOnce) {
     EXPECT_EQ(m.GetStartPosition(), nullptr);
 }
 
-TEST(CMap, OperatorIndexAddsAnEmptyValueForAnyKey) {
-    CMap<int, int, CString, const CString&> m;
-    m.SetAt(1, VU_T("one"));
-    EXPECT_TRUE(m[2].IsEmpty()); // added, empty
-    EXPECT_EQ(m.GetCount(), 2);
-    CMap<int, int, void*, void*> pointers;
-    EXPECT_EQ(pointers[-5], nullptr); // negative keys hash too
-    EXPECT_TRUE(pointers.RemoveKey(-5));
-    EXPECT_FALSE(pointers.RemoveKey(-5));
-}
-
 TEST(CMap, LargeMapAgreesWithAReferenceMap) {
     // Keys 0..1999 over 17 buckets, sixteen to a hash value: many chains and
     // equal hashes that only the key comparison tells apart.

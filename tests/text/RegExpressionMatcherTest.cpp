@@ -180,31 +180,39 @@ TEST(RegExpressionMatcher, AgreesWithTheRecursiveReference) {
     int compared = 0, matched = 0, failures = 0;
     for (int i = 0; i < 4000 && failures < 10; ++i) {
         const vu::String pattern = gen.Pattern();
-        VU_CRegExpression re;
-        if (!re.RegComp(pattern.c_str()))
+        // The same program searched plainly and with the failure memo on
+        // from the first choice (under an ample step budget): both must give
+        // the reference's results.
+        VU_CRegExpression plain, memo;
+        memo.SetFailureMemoThreshold(0);
+        memo.SetStepLimit(1'000'000);
+        if (!plain.RegComp(pattern.c_str()) || !memo.RegComp(pattern.c_str()))
             continue;
-        ReferenceMatcher reference(re.GetProgram());
+        ReferenceMatcher reference(plain.GetProgram());
         for (int t = 0; t < 8; ++t) {
             const vu::String text = gen.Text(12);
             const int expected = reference.Find(text.c_str());
-            const int found = re.RegFind(text.c_str());
-            ++compared;
-            std::string diff;
-            if (found != expected)
-                diff = "index " + std::to_string(found) + " expected " + std::to_string(expected);
-            for (int n = 0; n < 10 && expected >= 0 && diff.empty(); ++n)
-                if (re.GetGroupStart(n) != reference.Start(n) ||
-                    re.GetGroupEnd(n) != reference.End(n))
-                    diff = "group " + std::to_string(n) + " (" +
-                           std::to_string(re.GetGroupStart(n)) + "," +
-                           std::to_string(re.GetGroupEnd(n)) + ") expected (" +
-                           std::to_string(reference.Start(n)) + "," +
-                           std::to_string(reference.End(n)) + ")";
-            if (!diff.empty()) {
-                ++failures;
-                ADD_FAILURE() << "case " << i << ": pattern " << Show(pattern) << " on "
-                              << Show(text) << ": " << diff;
+            for (VU_CRegExpression* re : {&plain, &memo}) {
+                const int found = re->RegFind(text.c_str());
+                std::string diff;
+                if (found != expected)
+                    diff =
+                        "index " + std::to_string(found) + " expected " + std::to_string(expected);
+                for (int n = 0; n < 10 && expected >= 0 && diff.empty(); ++n)
+                    if (re->GetGroupStart(n) != reference.Start(n) ||
+                        re->GetGroupEnd(n) != reference.End(n))
+                        diff = "group " + std::to_string(n) + " (" +
+                               std::to_string(re->GetGroupStart(n)) + "," +
+                               std::to_string(re->GetGroupEnd(n)) + ") expected (" +
+                               std::to_string(reference.Start(n)) + "," +
+                               std::to_string(reference.End(n)) + ")";
+                if (!diff.empty()) {
+                    ++failures;
+                    ADD_FAILURE() << "case " << i << (re == &memo ? " (memo)" : "") << ": pattern "
+                                  << Show(pattern) << " on " << Show(text) << ": " << diff;
+                }
             }
+            ++compared;
             matched += expected >= 0;
         }
     }
@@ -218,30 +226,13 @@ TEST(RegExpressionMatcher, AgreesWithTheReferenceWhereChoicesLieFarApart) {
     const WCHAR* patterns[] = {VU_T("a?c*d?e"),       VU_T("(c*)(d|dc)a"),
                                VU_T("x*(c+)(d|dd)b"), VU_T("([abc]*)(a|b)*d"),
                                VU_T("(.)*-(a|b)?"),   VU_T("b?[^d]*(d|da)+")};
-    // Backtracking over a choice 20 units above the record below it.
-    const vu::String c20(20, VU_T('c'));
-    const std::pair<vu::String, vu::String> pairs[] = {
-        {VU_T("(a?)") + c20 + VU_T("d?(e|dx)"), VU_T("a") + c20 + VU_T("dx")},
-        {VU_T("(a?)") + c20 + VU_T("d?(e|dx)"), VU_T("-") + c20 + VU_T("dx")},
-        {VU_T("(b|a)") + c20 + VU_T("(d|dx)?y"), VU_T("a") + c20 + VU_T("dxy")},
-    };
-    for (const auto& [pattern, text] : pairs) {
-        SCOPED_TRACE("pattern " + Show(pattern) + " on " + Show(text));
-        VU_CRegExpression re;
-        ASSERT_NE(re.RegComp(pattern.c_str()), nullptr);
-        ReferenceMatcher reference(re.GetProgram());
-        const int expected = reference.Find(text.c_str());
-        ASSERT_GE(expected, 0);
-        ASSERT_EQ(re.RegFind(text.c_str()), expected);
-        for (int n = 0; n < 10; ++n) {
-            EXPECT_EQ(re.GetGroupStart(n), reference.Start(n)) << "group " << n;
-            EXPECT_EQ(re.GetGroupEnd(n), reference.End(n)) << "group " << n;
-        }
-    }
     RegExpressionPatternGenerator gen(5);
-    for (const WCHAR* pattern : patterns) {
+    for (int i = 0; i < 2 * int(std::size(patterns)); ++i) {
+        const WCHAR* pattern = patterns[i / 2];
         VU_CRegExpression re;
         ASSERT_NE(re.RegComp(pattern), nullptr);
+        if (i % 2)
+            re.SetFailureMemoThreshold(0); // the memo's records lie far apart too
         ReferenceMatcher reference(re.GetProgram());
         for (int t = 0; t < 300; ++t) {
             vu::String text = gen.Text(60);
@@ -301,6 +292,31 @@ TEST(RegExpressionMatcher, LongSubjectsDoNotExhaustTheStack) {
         EXPECT_EQ(re.GetFindLen(), row.length);
         EXPECT_EQ(re.GetGroupStart(1), row.groupStart);
         EXPECT_EQ(re.GetGroupEnd(1), row.groupEnd);
+        // The backtracking stack of megabytes is not kept after the search.
+        EXPECT_LE(re.GetScratchBytes(), 64u * 1024);
+    }
+}
+
+TEST(RegExpressionMatcher, BacktrackingTrapsCostTextTimesProgram) {
+    // Each fails after trying every path; plain backtracking costs n^2, n^3
+    // or 2^n steps here. The budget is the memo's threshold, its linear
+    // allowance, and a small multiple of text length x program length.
+    struct Row {
+        const WCHAR* pattern;
+        size_t length;
+    } rows[] = {{VU_T("(x|a+y)"), 1'000'000}, {VU_T("a*a*y|zz"), 100'000},
+                {VU_T("(a+)+b"), 10'000},     {VU_T("(a|aa)*b"), 10'000},
+                {VU_T("(a*b|a)*c"), 10'000},  {VU_T("((a|b)*(a|c))*d"), 10'000}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(Show(row.pattern));
+        const vu::String text(row.length, VU_T('a'));
+        VU_CRegExpression re;
+        ASSERT_NE(re.RegComp(row.pattern), nullptr);
+        const unsigned long long n = row.length + 1;
+        re.SetStepLimit(re.GetFailureMemoThreshold() + 8 * n + 4 * n * re.GetProgramSize());
+        EXPECT_EQ(re.RegFind(text.c_str()), -1);
+        EXPECT_FALSE(re.IsStepLimitExceeded());
+        EXPECT_LE(re.GetScratchBytes(), 64u * 1024) << "the memo is released";
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,86 +24,48 @@ vu::String Replace(VU_CRegExpression& re, const WCHAR* templ) {
 // ---- Compilation -----------------------------------------------------------
 
 TEST(RegExpressionCompile, AcceptsAndRejectsPatterns) {
-    struct Row {
-        const WCHAR* pattern;
+    // Patterns separated by spaces; the empty pattern is accepted too.
+    const struct {
+        const char* why;
         bool compiles;
+        const WCHAR* patterns;
     } rows[] = {
-        // accepted
-        {VU_T(""), true},
-        {VU_T("abc"), true},
-        {VU_T("a|"), true},
-        {VU_T("|"), true},
-        {VU_T("()"), true},
-        {VU_T("(a|)"), true},
-        {VU_T("a?"), true},
-        {VU_T("^?"), true},
-        {VU_T("(a?)?"), true},
-        {VU_T("[]a]"), true},
-        {VU_T("[a-]"), true},
-        {VU_T("[^-z]"), true},
-        {VU_T("[a-a]"), true},
-        {VU_T("\\*"), true},
-        {VU_T("\\\\"), true},
-        {VU_T("a]"), true},
-        {VU_T("(a)(b)(c)(d)(e)(f)(g)(h)(i)"), true},
-        {VU_T("((((((((()))))))))"), true},
-        {VU_T("(a+)*"), true},
-        {VU_T("(ab)+c"), true},
-        // nested repetition
-        {VU_T("x**"), false},
-        {VU_T("x+?"), false},
-        {VU_T("x?*"), false},
-        {VU_T("(ab)*+"), false},
-        // nothing to repeat
-        {VU_T("*x"), false},
-        {VU_T("+"), false},
-        {VU_T("?"), false},
-        {VU_T("|*"), false},
-        {VU_T("(+"), false},
-        {VU_T("a|?"), false},
-        // repeated item could be empty
-        {VU_T("()*"), false},
-        {VU_T("(a?)+"), false},
-        {VU_T("^*"), false},
-        {VU_T("$+"), false},
-        {VU_T("(a|)*"), false},
-        {VU_T("(a?b?)*"), false},
-        // unbalanced
-        {VU_T("(a"), false},
-        {VU_T("a)"), false},
-        {VU_T(")"), false},
-        {VU_T("((a)"), false},
-        // sets
-        {VU_T("[z-a]"), false},
-        {VU_T("[a-c"), false},
-        {VU_T("["), false},
-        {VU_T("[]"), false},
-        {VU_T("[^"), false},
-        // trailing backslash
-        {VU_T("\\"), false},
-        {VU_T("ab\\"), false},
-        // ten groups
-        {VU_T("(a)(b)(c)(d)(e)(f)(g)(h)(i)(j)"), false},
-        {VU_T("((((((((((a))))))))))"), false},
+        {"accepted", true, VU_T(" abc a| | () (a|) a? ^? (a?)? []a] [a-] [^-z] [a-a] \\* \\\\ a]")},
+        {"accepted", true, VU_T("(a)(b)(c)(d)(e)(f)(g)(h)(i) ((((((((())))))))) (a+)* (ab)+c")},
+        {"nested repetition", false, VU_T("x** x+? x?* (ab)*+")},
+        {"nothing to repeat", false, VU_T("*x + ? |* (+ a|?")},
+        {"repeated item could be empty", false, VU_T("()* (a?)+ ^* $+ (a|)* (a?b?)*")},
+        {"unbalanced", false, VU_T("(a a) ) ((a)")},
+        {"sets", false, VU_T("[z-a] [a-c [ [] [^")},
+        {"trailing backslash", false, VU_T("\\ ab\\")},
+        {"ten groups", false, VU_T("(a)(b)(c)(d)(e)(f)(g)(h)(i)(j) ((((((((((a))))))))))")},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(Show(row.pattern));
-        VU_CRegExpression re;
-        EXPECT_EQ(re.RegComp(row.pattern) != nullptr, row.compiles);
-        EXPECT_TRUE(re.IsCompiled()); // set whatever the outcome
+    for (const auto& row : rows) {
+        const vu::StringView list = row.patterns;
+        for (size_t from = 0, to; from <= list.size(); from = to + 1) {
+            to = std::min(list.find(VU_T(' '), from), list.size());
+            const vu::String pattern(list.substr(from, to - from));
+            SCOPED_TRACE(std::string(row.why) + ": " + Show(pattern));
+            VU_CRegExpression re;
+            EXPECT_EQ(re.RegComp(pattern.c_str()) != nullptr, row.compiles);
+            EXPECT_TRUE(re.IsCompiled()); // set whatever the outcome
+        }
     }
 }
 
-TEST(RegExpressionCompile, NullPatternChangesNothing) {
+TEST(RegExpressionCompile, NullsAndFailedCompiles) {
     VU_CRegExpression re;
+    EXPECT_EQ(re.RegFind(VU_T("abc")), -1) << "nothing compiled";
     EXPECT_EQ(re.RegComp(nullptr), nullptr);
-    EXPECT_FALSE(re.IsCompiled());
-    EXPECT_EQ(re.RegFind(VU_T("abc")), -1);
-}
-
-TEST(RegExpressionCompile, ReturnsThisOnSuccess) {
-    VU_CRegExpression re;
+    EXPECT_FALSE(re.IsCompiled()) << "a null pattern changes nothing";
+    // A failed first compile matches nothing, not even the empty string.
+    EXPECT_EQ(re.RegComp(VU_T("*")), nullptr);
+    EXPECT_TRUE(re.IsCompiled());
+    EXPECT_EQ(re.GetProgram(), nullptr);
+    EXPECT_EQ(re.RegFind(VU_T("")), -1);
+    EXPECT_EQ(re.GetFindLen(), 0);
     EXPECT_EQ(re.RegComp(VU_T("a")), &re);
+    EXPECT_EQ(re.RegFind(nullptr), -1);
 }
 
 // ---- Searching -------------------------------------------------------------
@@ -131,105 +94,53 @@ void CheckFinds(const std::vector<FindRow>& rows) {
     }
 }
 
-TEST(RegExpressionFind, LiteralsAndCase) {
+// Matching over small ASCII alphabets is compared with a recursive reference
+// and with PCRE2 on generated patterns; these rows hold the named cases and
+// what the generators do not produce (units above 0xFF, large sets, escapes).
+TEST(RegExpressionFind, NamedCases) {
     CheckFinds({
+        // literals and case
         {VU_T("abc"), VU_T("xxabcabc"), 2, 3},
         {VU_T("abc"), VU_T("ABC"), -1, 0},
-        {VU_T("abc"), VU_T("ab"), -1, 0},
-        {VU_T("abc"), VU_T(""), -1, 0},
-        {VU_T("b"), VU_T("abc"), 1, 1},
-        {VU_T("aab"), VU_T("aaab"), 1, 3},
         {VU_T("\u00e9t\u00e9"), VU_T("\u00c9t\u00e9 \u00e9t\u00e9"), 4, 3},
-        {VU_T("\\."), VU_T("a.b"), 1, 1},
         {VU_T("\\d"), VU_T("1d"), 1, 1}, // no escape classes
-        {VU_T("a]b"), VU_T("a]b"), 0, 3},
         {VU_T("\uffff"), VU_T("a\uffff"), 1, 1},
-    });
-}
-
-TEST(RegExpressionFind, EmptyPatternsAndEmptyMatches) {
-    CheckFinds({
+        // empty patterns and matches
         {VU_T(""), VU_T(""), 0, 0},
         {VU_T(""), VU_T("abc"), 0, 0},
         {VU_T("x*"), VU_T("abc"), 0, 0},
-        {VU_T("a?"), VU_T("b"), 0, 0},
         {VU_T("$"), VU_T("ab"), 2, 0},
-        {VU_T("$"), VU_T(""), 0, 0},
-        {VU_T("^"), VU_T("ab"), 0, 0},
         {VU_T("^$"), VU_T(""), 0, 0},
         {VU_T("^$"), VU_T("a"), -1, 0},
-    });
-}
-
-TEST(RegExpressionFind, Anchors) {
-    CheckFinds({
+        // anchors: only the string's start and end, not line breaks
         {VU_T("^b"), VU_T("ab"), -1, 0},
-        {VU_T("^a"), VU_T("ab"), 0, 1},
         {VU_T("b$"), VU_T("ab"), 1, 1},
-        {VU_T("b$"), VU_T("ab\n"), -1, 0}, // not before a line break
-        {VU_T("^b"), VU_T("a\nb"), -1, 0}, // not after a line break
-        {VU_T("a$|b"), VU_T("ab"), 1, 1},
-        {VU_T("a^"), VU_T("aa"), -1, 0},
+        {VU_T("b$"), VU_T("ab\n"), -1, 0},
+        {VU_T("^b"), VU_T("a\nb"), -1, 0},
         {VU_T("(^a)+"), VU_T("aa"), 0, 1},
         {VU_T("x|^a"), VU_T("ba"), -1, 0},
-    });
-}
-
-TEST(RegExpressionFind, RepetitionsAreGreedyAndApplyToTheLastCharacter) {
-    CheckFinds({
+        // repetitions apply to the last character, greedily
         {VU_T("abc*"), VU_T("abccc"), 0, 5},
         {VU_T("abc*"), VU_T("ababc"), 0, 2},
-        {VU_T("ab+c"), VU_T("abbbc"), 0, 5},
         {VU_T("ab+c"), VU_T("ac abc"), 3, 3},
         {VU_T("(ab)*"), VU_T("ababa"), 0, 4},
-        {VU_T("(ab)*c"), VU_T("abababc"), 0, 7},
-        {VU_T("(ab)+"), VU_T("aab"), 1, 2},
-        {VU_T("a*"), VU_T("aaa"), 0, 3},
-        {VU_T("a*a"), VU_T("aaa"), 0, 3},
-        {VU_T("a*ab"), VU_T("aaab"), 0, 4},
-        {VU_T("a+a+"), VU_T("aaaa"), 0, 4},
-        {VU_T(".*"), VU_T("abc"), 0, 3},
-        {VU_T(".*c"), VU_T("abcabc"), 0, 6},
         {VU_T("a.*b"), VU_T("xa\nb b"), 1, 5}, // . matches a line break
-        {VU_T("[ab]*c"), VU_T("ababx abc"), 6, 3},
-        {VU_T("[ab]+c"), VU_T("ababx abc"), 6, 3},
-        {VU_T("[^x]+"), VU_T("xxabx"), 2, 2},
-        {VU_T("a?b"), VU_T("ab b"), 0, 2},
-        {VU_T("(ab)?ab"), VU_T("ab"), 0, 2},
         {VU_T("(a|ab)(c|bcd)"), VU_T("abcd"), 0, 4},
-        {VU_T("x*y*z"), VU_T("xxyyz"), 0, 5},
-    });
-}
-
-TEST(RegExpressionFind, AlternativesAreTriedInOrder) {
-    CheckFinds({
+        // alternatives in order, leftmost first
         {VU_T("a|b|c"), VU_T("xxc"), 2, 1},
         {VU_T("a|b|c"), VU_T("xyz"), -1, 0},
-        {VU_T("a|ab"), VU_T("ab"), 0, 1}, // first alternative wins, not the longest
-        {VU_T("ab|a"), VU_T("ab"), 0, 2},
-        {VU_T("(a|ab)c"), VU_T("abc"), 0, 3},
-        {VU_T("b|ab"), VU_T("ab"), 0, 2}, // leftmost first
+        {VU_T("a|ab"), VU_T("ab"), 0, 1},
+        {VU_T("b|ab"), VU_T("ab"), 0, 2},
         {VU_T("|a"), VU_T("a"), 0, 0},
-        {VU_T("Tom|Sawyer|Huck"), VU_T("Tom Sawyer"), 0, 3},
-        {VU_T("Sawyer|Tom"), VU_T("Tom Sawyer"), 0, 3},
-    });
-}
-
-TEST(RegExpressionFind, Sets) {
-    CheckFinds({
+        // sets
         {VU_T("[]a]"), VU_T("x]"), 1, 1},
         {VU_T("[]a]"), VU_T("xa"), 1, 1},
         {VU_T("[a-]"), VU_T("x-"), 1, 1},
         {VU_T("[^-z]"), VU_T("-zq"), 2, 1},
-        {VU_T("[^-z]+"), VU_T("-zab-"), 2, 2},
-        {VU_T("[a-c]+"), VU_T("xabcd"), 1, 3},
-        {VU_T("[a-cx-z]+"), VU_T("-byx-"), 1, 3},
         {VU_T("[a-c-e]+"), VU_T("-abcde-"), 1, 5}, // "c-e" after a range: range c..e
         {VU_T("[--/]+"), VU_T("a-./b"), 1, 3},
-        {VU_T("[^]a]"), VU_T("]ab"), 2, 1},
-        {VU_T("[\\]"), VU_T("a\\"), 1, 1}, // no escapes in a set
-        {VU_T("[.]"), VU_T("a."), 1, 1},
-        {VU_T("[^a]"), VU_T("a"), -1, 0}, // never the terminating NUL
+        {VU_T("[\\]"), VU_T("a\\"), 1, 1}, // no escapes
+        {VU_T("[^a]"), VU_T("a"), -1, 0},  // never the terminating NUL
         {VU_T("[\u0100-\u0102]"), VU_T("a\u0101"), 1, 1},
         {VU_T("[^\u0100-\u0102]+"), VU_T("\u0100ab\u0101"), 1, 2},
         {VU_T("[\u0100-\u2fff]+"), VU_T("ab\u0100\u2fffc"), 2, 2}, // a large set
@@ -239,16 +150,10 @@ TEST(RegExpressionFind, Sets) {
     });
 }
 
-TEST(RegExpressionFind, NullStringAndUncompiledObject) {
-    VU_CRegExpression fresh;
-    EXPECT_EQ(fresh.RegFind(VU_T("abc")), -1);
-    VU_CRegExpression re;
-    ASSERT_NE(re.RegComp(VU_T("a")), nullptr);
-    EXPECT_EQ(re.RegFind(nullptr), -1);
-}
-
 // ---- Groups ----------------------------------------------------------------
 
+// Every group is compared with the references on generated patterns; these
+// rows keep the rules about iterations and unset groups.
 TEST(RegExpressionGroups, PositionsOfEachGroup) {
     struct Row {
         const WCHAR* pattern;
@@ -257,15 +162,10 @@ TEST(RegExpressionGroups, PositionsOfEachGroup) {
     } rows[] = {
         {VU_T("(a)(b)"), VU_T("xab"), {{1, 3}, {1, 2}, {2, 3}}},
         {VU_T("(a)*"), VU_T("aaa"), {{0, 3}, {2, 3}}}, // the last iteration is kept
-        {VU_T("(a|b)*c"), VU_T("abbac"), {{0, 5}, {3, 4}}},
         {VU_T("((a)|b)+"),
          VU_T("ab"),
          {{0, 2}, {1, 2}, {0, 1}}}, // group 2 from an earlier iteration
         {VU_T("(a)|(b)"), VU_T("b"), {{0, 1}, {-1, -1}, {0, 1}}},
-        {VU_T("(a?)b"), VU_T("b"), {{0, 1}, {0, 0}}},
-        {VU_T("(a*)(a)"), VU_T("aaa"), {{0, 3}, {0, 2}, {2, 3}}},
-        {VU_T("(ab|a)(bc|c)"), VU_T("abc"), {{0, 3}, {0, 2}, {2, 3}}},
-        {VU_T("x(y(z))"), VU_T("xyz"), {{0, 3}, {1, 3}, {2, 3}}},
         {VU_T("()"), VU_T("a"), {{0, 0}, {0, 0}}},
     };
     for (const Row& row : rows) {
@@ -312,14 +212,8 @@ TEST(RegExpressionReplace, TemplateRules) {
         EXPECT_EQ(Show(Replace(re, row.templ)), Show(row.expected));
     }
     EXPECT_EQ(re.GetReplaceString(nullptr), nullptr);
-}
-
-TEST(RegExpressionReplace, NullAfterAFailedSearch) {
-    VU_CRegExpression re;
-    ASSERT_NE(re.RegComp(VU_T("a")), nullptr);
-    ASSERT_EQ(re.RegFind(VU_T("a")), 0);
     ASSERT_EQ(re.RegFind(VU_T("b")), -1);
-    EXPECT_EQ(re.GetReplaceString(VU_T("&")), nullptr);
+    EXPECT_EQ(re.GetReplaceString(VU_T("&")), nullptr) << "after a failed search";
 }
 
 TEST(RegExpressionReplace, GroupTextOutlivesTheSearchedString) {
@@ -343,16 +237,6 @@ TEST(RegExpressionState, FailedCompileKeepsThePreviousProgram) {
     EXPECT_EQ(vu::String(re.GetProgram(), re.GetProgramSize()), program);
     EXPECT_EQ(re.RegFind(VU_T("abbc")), 1);
     EXPECT_EQ(re.GetFindLen(), 2);
-}
-
-TEST(RegExpressionState, FailedFirstCompileMatchesNothing) {
-    VU_CRegExpression re;
-    EXPECT_EQ(re.RegComp(VU_T("*")), nullptr);
-    EXPECT_TRUE(re.IsCompiled());
-    EXPECT_EQ(re.GetProgram(), nullptr);
-    EXPECT_EQ(re.RegFind(VU_T("")), -1);
-    EXPECT_EQ(re.RegFind(VU_T("abc")), -1);
-    EXPECT_EQ(re.GetFindLen(), 0);
 }
 
 TEST(RegExpressionState, FindLenAfterFailedSearches) {
@@ -440,25 +324,6 @@ TEST(RegExpressionProgram, NodeLayout) {
     }
 }
 
-TEST(RegExpressionProgram, LoopBackLinksPointBackwards) {
-    VU_CRegExpression re;
-    ASSERT_NE(re.RegComp(VU_T("(a)*")), nullptr);
-    const WCHAR* p = re.GetProgram();
-    bool sawLoopBack = false;
-    for (unsigned i = 0; i < re.GetProgramSize();) {
-        const WCHAR op = p[i];
-        if (op == VU_CRegExpression::OpLoopBack) {
-            sawLoopBack = true;
-            // It loops to the inserted alternative at unit 3.
-            EXPECT_EQ(VU_CRegExpression::ReadLink(p + i), i - 3);
-        }
-        i += VU_CRegExpression::kNodeUnits;
-        if (op == VU_CRegExpression::OpLiteral)
-            i += 2; // operand "a" and its NUL
-    }
-    EXPECT_TRUE(sawLoopBack);
-}
-
 TEST(RegExpressionProgram, LinksBeyondSixteenBits) {
     vu::String pattern(70000, VU_T('q'));
     pattern += VU_T("|z");
@@ -531,8 +396,8 @@ TEST(RegExpressionProgram, SearchHints) {
 TEST(RegExpressionSteps, BudgetStopsARunawaySearch) {
     VU_CRegExpression re;
     ASSERT_NE(re.RegComp(VU_T("(a|aa)*[b]")), nullptr);
-    const vu::String text(60, VU_T('a')); // exponential without a budget
-    re.SetStepLimit(200000);
+    const vu::String text(60, VU_T('a'));
+    re.SetStepLimit(500);
     EXPECT_EQ(re.RegFind(text.c_str()), -1);
     EXPECT_TRUE(re.IsStepLimitExceeded());
     EXPECT_EQ(re.GetFindLen(), 0);
@@ -540,25 +405,6 @@ TEST(RegExpressionSteps, BudgetStopsARunawaySearch) {
     EXPECT_EQ(re.RegFind(VU_T("aab")), 0);
     EXPECT_FALSE(re.IsStepLimitExceeded());
     EXPECT_EQ(re.GetFindLen(), 3);
-}
-
-TEST(RegExpressionSteps, AmpleBudgetChangesNoResult) {
-    const WCHAR* patterns[] = {VU_T("(a|b)*c"), VU_T("x*(ab)+"), VU_T("[ab]*b"), VU_T(".*c"),
-                               VU_T("(a|ab)(c|bcd)")};
-    const WCHAR* texts[] = {VU_T("ababc"),  VU_T("xxababab"), VU_T("aab"),
-                            VU_T("abcabc"), VU_T("abcd"),     VU_T("zzz")};
-    for (const WCHAR* pattern : patterns) {
-        for (const WCHAR* text : texts) {
-            SCOPED_TRACE(Show(pattern) + " on " + Show(text));
-            VU_CRegExpression unlimited, limited;
-            ASSERT_NE(unlimited.RegComp(pattern), nullptr);
-            ASSERT_NE(limited.RegComp(pattern), nullptr);
-            limited.SetStepLimit(1000000);
-            EXPECT_EQ(limited.RegFind(text), unlimited.RegFind(text));
-            EXPECT_EQ(limited.GetFindLen(), unlimited.GetFindLen());
-            EXPECT_FALSE(limited.IsStepLimitExceeded());
-        }
-    }
 }
 
 } // namespace

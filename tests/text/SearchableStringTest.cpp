@@ -131,13 +131,15 @@ TEST(SearchableStringFind, CheckForWholeWordTreatsTextEndsAsBoundaries) {
     struct Probe : S {
         using S::CheckForWholeWord;
         using S::S;
-    };
-    Probe s(VU_T("ab cd"));
-    EXPECT_EQ(s.CheckForWholeWord(0, 2), 0);
-    EXPECT_EQ(s.CheckForWholeWord(3, 2), 3);
-    EXPECT_EQ(s.CheckForWholeWord(1, 1), -1);
-    EXPECT_EQ(s.CheckForWholeWord(-1, 2), -1);
-    EXPECT_EQ(s.CheckForWholeWord(-7, 2), -7) << "negative indexes pass through";
+    } s(VU_T("ab cd "));
+    const struct {
+        int index, length, expected;
+    } rows[] = {{0, 2, 0},  {3, 2, 3},  {1, 1, -1}, {-1, 2, -1}, {-7, 2, -7}, // negatives pass
+                {6, 1, -1}, {5, 2, -1}, {6, 0, 6},  {7, 0, -1},  {9, 2, -1},  // not within the text
+                {2, -1, -1}};
+    for (const auto& row : rows)
+        EXPECT_EQ(s.CheckForWholeWord(row.index, row.length), row.expected)
+            << "(" << row.index << "," << row.length << ")";
 }
 
 TEST(SearchableStringFind, FindNRangeEdges) {
@@ -182,6 +184,24 @@ TEST(SearchableStringFind, RegularExpCountsFromStart) {
     EXPECT_EQ(s.FindRegularExp(VU_T("b"), 6), -1);
     EXPECT_EQ(s.FindRegularExp(VU_T("b"), -4), 1);
     EXPECT_EQ(s.FindRegularExp(VU_T("a["), 0), 1) << "a pattern that does not compile keeps 'b'";
+}
+
+TEST(SearchableStringFind, RegularExpStepBudget) {
+    S s(vu::String(40, VU_T('a')).c_str());
+    EXPECT_EQ(s.GetRegularExpStepLimit(), 0u) << "unlimited by default";
+    EXPECT_EQ(s.FindRegularExp(VU_T("(a|aa)*[b]")), -1) << "ends without a budget";
+    EXPECT_FALSE(s.IsRegularExpStepLimitExceeded());
+    s.SetRegularExpStepLimit(100);
+    EXPECT_EQ(s.GetRegularExpStepLimit(), 100u);
+    EXPECT_EQ(s.FindRegularExp(VU_T("(a|aa)*[b]")), -1);
+    EXPECT_TRUE(s.IsRegularExpStepLimitExceeded());
+    EXPECT_EQ(s.FindReplaceRegularExp(VU_T("(a|aa)*[b]"), VU_T("x"), TRUE), 0);
+    EXPECT_TRUE(s.IsRegularExpStepLimitExceeded());
+    EXPECT_EQ(s.GetLength(), 40);
+    EXPECT_EQ(s.FindRegularExp(VU_T("a"), 39), 39);
+    EXPECT_FALSE(s.IsRegularExpStepLimitExceeded()) << "each search starts afresh";
+    const S copy(s);
+    EXPECT_EQ(copy.GetRegularExpStepLimit(), 100u);
 }
 
 // ---- Replacing -------------------------------------------------------------

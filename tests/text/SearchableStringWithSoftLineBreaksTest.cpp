@@ -158,41 +158,36 @@ TEST(SoftBreaksWrap, RewrapsAndKeepsTheSelection) {
 // ---- Searching across soft breaks ------------------------------------------------------
 
 TEST(SoftBreaksSearch, PositionsCountTheTextWithoutBreaks) {
-    // Found in "abcd"; the selection then moves past the break put back.
+    // Found in "abcd"; the selection then moves past the break put back. The
+    // property test compares the text forms with the unwrapped text.
+    // op: F Find, f Find(ch), n FindNoCase(ch), r ReverseFind(ch),
+    //     Q ReverseFindNoCase, q ReverseFindNoCase(ch), N FindN, X FindRegularExp
     const struct {
-        const char* name;
-        int (*search)(Soft&);
+        char op;
+        const WCHAR* what;
         int found;
         Selection selection;
-    } rows[] = {
-        {"Find text", [](Soft& s) { return s.Find(VU_T("bc")); }, 1, {1, 6}},
-        {"Find char", [](Soft& s) { return s.Find(VU_T('d')); }, 3, {6, 7}},
-        {"FindNoCase text", [](Soft& s) { return s.FindNoCase(VU_T("BC")); }, 1, {1, 6}},
-        {"FindNoCase char", [](Soft& s) { return s.FindNoCase(VU_T('C')); }, 2, {2, 6}},
-        {"ReverseFind text", [](Soft& s) { return s.ReverseFind(VU_T("b")); }, 1, {1, 5}},
-        {"ReverseFind char", [](Soft& s) { return s.ReverseFind(VU_T('c')); }, 2, {2, 6}},
-        {"ReverseFindNoCase text",
-         [](Soft& s) { return s.ReverseFindNoCase(VU_T("CD")); },
-         2,
-         {2, 7}},
-        {"ReverseFindNoCase char",
-         [](Soft& s) { return s.ReverseFindNoCase(VU_T('A')); },
-         0,
-         {0, 1}},
-        {"absent", [](Soft& s) { return s.Find(VU_T("x")); }, -1, {-1, -1}},
-        {"FindN on the text as it stands",
-         [](Soft& s) { return s.FindN(VU_T('c'), 0, 10); },
-         5,
-         {5, 6}},
-        {"FindN absent: the length", [](Soft& s) { return s.FindN(VU_T('z'), 0, 10); }, 7, {7, 7}},
-        // The regular expression search returns the selection start.
-        {"FindRegularExp", [](Soft& s) { return s.FindRegularExp(VU_T("c.")); }, 2, {2, 6}},
-        {"FindRegularExp absent", [](Soft& s) { return s.FindRegularExp(VU_T("z")); }, 7, {7, 7}},
-    };
+    } rows[] = {{'F', VU_T("bc"), 1, {1, 6}},   {'f', VU_T("d"), 3, {6, 7}},
+                {'n', VU_T("C"), 2, {2, 6}},    {'r', VU_T("c"), 2, {2, 6}},
+                {'Q', VU_T("CD"), 2, {2, 7}},   {'q', VU_T("A"), 0, {0, 1}},
+                {'F', VU_T("x"), -1, {-1, -1}}, // absent
+                {'N', VU_T("c"), 5, {5, 6}},    // on the text as it stands
+                {'N', VU_T("z"), 7, {7, 7}},    // absent: the length
+                {'X', VU_T("c."), 2, {2, 6}},   // returns the selection start
+                {'X', VU_T("z"), 7, {7, 7}}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(testing::Message() << row.op << " " << char(row.what[0]));
         Soft s(VU_T("ab\r\r\ncd"));
-        EXPECT_EQ(row.search(s), row.found);
+        const WCHAR c = row.what[0];
+        const int found = row.op == 'F'   ? s.Find(row.what)
+                          : row.op == 'f' ? s.Find(c)
+                          : row.op == 'n' ? s.FindNoCase(c)
+                          : row.op == 'r' ? s.ReverseFind(c)
+                          : row.op == 'Q' ? s.ReverseFindNoCase(row.what)
+                          : row.op == 'q' ? s.ReverseFindNoCase(c)
+                          : row.op == 'N' ? s.FindN(c, 0, 10)
+                                          : s.FindRegularExp(row.what);
+        EXPECT_EQ(found, row.found);
         EXPECT_EQ(SelectionOf(s), row.selection);
         EXPECT_EQ(s.Str(), VU_T("ab\r\r\ncd")) << "the soft break stays in place";
     }
@@ -225,10 +220,6 @@ TEST(SoftBreaksReplace, SingleReplacementTakesTheCharacterAfterTheMatch) {
         {"first match otherwise", VU_T("concat cat"), VU_T("cat"), VU_T("dog"), FALSE, FALSE, 1,
          VU_T("condogcat")},
         {"absent", VU_T("abc"), VU_T("x"), VU_T("y"), FALSE, FALSE, 0, VU_T("abc")},
-        {"break after the edit kept", VU_T("ab cd \r\r\nef"), VU_T("ab"), VU_T("xyz"), 0, 0, 1,
-         VU_T("xyzcd \r\r\nef")},
-        {"break inside the edit kept", VU_T("ab\r\r\ncd ef"), VU_T("bc"), VU_T(""), 0, 0, 1,
-         VU_T("a\r\r\n ef")},
         {"no-case form matches exactly", VU_T("Aa"), VU_T("a"), VU_T("x"), FALSE, TRUE, 1,
          VU_T("Ax")},
     };
@@ -248,6 +239,23 @@ TEST(SoftBreaksReplace, SingleReplacementTakesTheCharacterAfterTheMatch) {
     EXPECT_EQ(s.Str(), VU_T("yzc"));
 }
 
+TEST(SoftBreaksReplace, BreaksGoBackWhereTheyStoodBeforeTheEdit) {
+    // The breaks stand replaced during the edit, so they are not located
+    // again: they return at their old positions (the host re-wraps).
+    Soft s = Make(VU_T("ab\r\r\ncd"), {0, 0});
+    EXPECT_EQ(s.ReplaceSelectionWith(VU_T("XYZ")), 1);
+    EXPECT_EQ(s.Str(), VU_T("XY\r\r\nZbcd"));
+    EXPECT_EQ(SelectionOf(s), Selection(0, 5));
+    s = VU_T("hello \r\r\nworld");
+    EXPECT_EQ(s.FindReplace(VU_T("hello"), VU_T("hi"), FALSE), 1);
+    EXPECT_EQ(s.Str(), VU_T("hiworl\r\r\nd"));
+    EXPECT_EQ(SelectionOf(s), Selection(0, 1));
+    s = VU_T("ab\r\r\n");
+    s.SetSelection(0, 1);
+    EXPECT_EQ(s.ReplaceSelectionWith(VU_T("")), 1);
+    EXPECT_EQ(s.Str(), VU_T("\r\r\n")) << "a position past the shorter text goes to its end";
+}
+
 TEST(SoftBreaksReplace, ReplaceAllWorksWithoutBreaksAndLeavesThemOut) {
     Soft s(VU_T("a cat\r\r\ncat"));
     EXPECT_EQ(s.FindReplace(VU_T("cat"), VU_T("dog"), TRUE), 2);
@@ -263,6 +271,10 @@ TEST(SoftBreaksReplace, ReplaceAllWorksWithoutBreaksAndLeavesThemOut) {
     s = VU_T("ab\r\r\ncd");
     EXPECT_EQ(s.FindReplaceRegularExp(VU_T("z"), VU_T("y"), TRUE), 0);
     EXPECT_EQ(s.Str(), VU_T("ab\r\r\ncd")) << "nothing replaced: the break is put back";
+    s = Soft(vu::String(30, VU_T('a')).c_str());
+    s.SetRegularExpStepLimit(100);
+    EXPECT_EQ(s.FindReplaceRegularExp(VU_T("(a|aa)*[b]"), VU_T("y"), TRUE), 0);
+    EXPECT_TRUE(s.IsRegularExpStepLimitExceeded()) << "carried back from the plain copy";
 }
 
 // ---- Editing and fields ------------------------------------------------------------------

@@ -85,8 +85,9 @@ TEST(TreeListGeometry, ColumnStartsFollowTheTabStops) {
     EXPECT_EQ((std::vector<int>{0, 66, 198, 330}), ColumnStarts(4, {11, 33}, 6))
         << "past the last stop, the last spacing repeats";
     EXPECT_EQ((std::vector<int>{0, 8, 16}), ColumnStarts(3, {}, 1));
-    EXPECT_EQ((std::vector<int>{0, 50, 50}), ColumnStarts(3, {10, 4}, 5))
-        << "a stop left of the previous one does not move the column back";
+    EXPECT_EQ((std::vector<int>{0, 50, 90}), ColumnStarts(3, {10, 4}, 5))
+        << "a stop left of the previous one gives its column the default spacing";
+    EXPECT_EQ((std::vector<int>{0, 50, 90}), ColumnStarts(3, {10, 10}, 5)) << "equal stops";
     EXPECT_TRUE(ColumnStarts(0, {11}, 6).empty());
     const std::vector<int> starts{0, 66, 198};
     EXPECT_EQ(0, ColumnAt(65, starts));

@@ -102,17 +102,6 @@ TEST(TreeNode, ImageLookups) {
     CTreeNode copy(CString(VU_T("n")), pair, 0, 1, nullptr);
     pair.SetAt(0, 99);
     EXPECT_EQ(3, copy.GetImageIndex(0)) << "the node holds a copy";
-
-    SCOPED_TRACE("array copy and assignment");
-    VU_CImageIndexArray target(two);
-    EXPECT_EQ(4, target.GetSize());
-    EXPECT_EQ(21, target.GetAt(3));
-    target = VU_CImageIndexArray::Pair(1, 2); // emptied first, then sized to the source
-    VU_CImageIndexArray& self = target;
-    target = self;
-    ASSERT_EQ(2, target.GetSize());
-    EXPECT_EQ(1, target.GetAt(0));
-    EXPECT_EQ(2, target.GetAt(1));
 }
 
 // ---- Counts and searches ------------------------------------------------------
@@ -150,6 +139,8 @@ TEST(TreeNode, FindNodeAndItemDataSearchInPreOrder) {
     EXPECT_EQ(t.a2, t.root.FindNodeFromItemData(777));
     t.a2->SetHandle(7);
     EXPECT_EQ(t.a2, t.root.FindNode(7));
+    EXPECT_EQ(1, t.root.GetNodeIndex(t.b));
+    EXPECT_EQ(-1, t.root.GetNodeIndex(t.b1)) << "children only, by pointer";
 }
 
 TEST(TreeNode, LastNodeOfParent) {
@@ -162,14 +153,6 @@ TEST(TreeNode, LastNodeOfParent) {
     EXPECT_TRUE(t.a->IsParentLastNodeOfParent()) << "root has no parent";
 }
 
-TEST(TreeNode, GetChildOutOfRangeThrows) {
-    SampleTree t;
-    EXPECT_THROW(t.root.GetChild(3), CInvalidArgException);
-    EXPECT_THROW(t.root.GetChild(-1), CInvalidArgException);
-    EXPECT_EQ(-1, t.root.GetNodeIndex(t.b1));
-    EXPECT_EQ(1, t.root.GetNodeIndex(t.b));
-}
-
 TEST(TreeNode, FindNoCaseChildString) {
     CTreeNode root(CString(VU_T("Drives")), 0, 0, 0, 1, nullptr);
     AddChild(&root, VU_T("Motor\tstopped"), 2);
@@ -177,6 +160,11 @@ TEST(TreeNode, FindNoCaseChildString) {
     AddChild(motors, VU_T("Motor"), 4);
     CTreeNode* group = AddChild(&root, VU_T("Pumps"), 5);
     AddChild(group, VU_T("PUMP_1\tBOOL"), 6);
+    // "Motors" hides its child "Motor" from an exact search with
+    // matchParents; a later sibling is still searched.
+    CTreeNode other(CString(VU_T("root")), 0, 0, 0, 11, nullptr);
+    AddChild(AddChild(&other, VU_T("Motors"), 12), VU_T("Motor"), 13);
+    AddChild(&other, VU_T("motor\tINT"), 14);
 
     struct Row {
         const char* name;
@@ -198,22 +186,14 @@ TEST(TreeNode, FindNoCaseChildString) {
         {"short prefix of a longer key", &root, VU_T("Mxyz"), false, 1, 0, 2},
         {"matchParents finds the root first", &root, VU_T("d"), true, 1, 0, 1},
         {"no match", &root, VU_T("valve"), true, 5, 0, -1},
+        {"a mismatching parent ends only its subtree", &other, VU_T("Motor"), true, 5, 1, 14},
+        {"no candidate parent: its child is searched", &other, VU_T("Motor"), false, 5, 1, 13},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(row.expected, row.node->FindNoCaseChildString(CString(row.text), row.matchParents,
                                                                 row.length, row.exact));
     }
-}
-
-TEST(TreeNode, ExactSearchPrunesOnlyTheMismatchingSubtree) {
-    CTreeNode root(CString(VU_T("root")), 0, 0, 0, 1, nullptr);
-    CTreeNode* motors = AddChild(&root, VU_T("Motors"), 2);
-    AddChild(motors, VU_T("Motor"), 3);     // hidden behind "Motors"
-    AddChild(&root, VU_T("motor\tINT"), 4); // a later sibling is still searched
-    EXPECT_EQ(4, root.FindNoCaseChildString(CString(VU_T("Motor")), true, 5, 1));
-    EXPECT_EQ(3, root.FindNoCaseChildString(CString(VU_T("Motor")), false, 5, 1))
-        << "without matchParents Motors is not a candidate, so its child is searched";
 }
 
 // ---- Visiting -------------------------------------------------------------------
@@ -263,6 +243,32 @@ TEST(TreeNodeVisitor, CompletionStopsTheWalk) {
     done.SetVisitComplete(true);
     t.root.Accept(&done);
     EXPECT_TRUE(done.arrays.empty());
+}
+
+// The array interface allows null entries: counts, searches, walks, the XML
+// dump and the destructor all skip them.
+TEST(TreeNode, NullChildrenAreSkippedEverywhere) {
+    auto* root = new CTreeNode(CString(VU_T("root")), -1, -1, 1, 1, nullptr);
+    root->Add(nullptr);
+    CTreeNode* a = AddChild(root, VU_T("a"), 2, 20);
+    a->Add(nullptr);
+    AddChild(a, VU_T("a1"), 3, 30);
+    root->Add(nullptr);
+    root->Expand(1);
+    a->Expand(1);
+    EXPECT_EQ(3, root->GetNumberOfNodes());
+    EXPECT_EQ(2, root->ComputeNumberOfExpandedNodesShowing());
+    EXPECT_EQ(nullptr, root->FindNode(99));
+    EXPECT_EQ(nullptr, root->FindNodeFromItemData(99));
+    EXPECT_EQ(3, root->FindNoCaseChildString(CString(VU_T("A1")), false, 2, 1));
+    CTreeNode::ResetXmlRowCounter(-1);
+    const vu::String xml = root->XmlGetString();
+    EXPECT_EQ(3, CTreeNode::GetXmlRowCounter());
+    EXPECT_NE(vu::String::npos, xml.find(VU_T("<text>a1</text><parent>a</parent>")));
+    RecordingVisitor v;
+    root->Accept(&v);
+    EXPECT_EQ(3u, v.arrays.size());
+    delete root;
 }
 
 // ---- Ownership ------------------------------------------------------------------

@@ -113,7 +113,8 @@ void VU_CTreeListBox::DeleteRow(int row) {
 }
 
 CTreeNode* VU_CTreeListBox::GetNode(int row) const {
-    if (m_hWnd == nullptr || row < 0 || row >= GetRowCount())
+    // One query per row: LB_GETITEMDATA answers LB_ERR past the last row.
+    if (m_hWnd == nullptr || row < 0)
         return nullptr;
     const LRESULT data = ::SendMessageW(m_hWnd, LB_GETITEMDATA, static_cast<WPARAM>(row), 0);
     if (data == LB_ERR)
@@ -289,8 +290,10 @@ int VU_CTreeListBox::InsertItem(CTreeNode* node, int parentHandle, int index, in
     }
     bool showing = parent->IsExpanded() != 0;
     if (expandParent) {
-        if (!parent->IsExpanded())
+        if (!parent->IsExpanded()) {
             ExpandThisAndParent(parent);
+            Expand(GetListboxIndex(parent));
+        }
         showing = true;
     }
     node->SetHandle(m_nextHandle++);
@@ -536,9 +539,10 @@ void VU_CTreeListBox::Expand(int row) {
     if (node == nullptr || node->IsExpanded() || node->GetNumberOfChildren() == 0)
         return;
     BeginUpdate();
-    const int children = node->GetNumberOfChildren();
-    for (int i = 0; i < children; ++i)
-        InsertRow(row + 1 + i, node->GetChild(i));
+    int next = row + 1;
+    for (int i = 0; i < node->GetNumberOfChildren(); ++i)
+        if (CTreeNode* child = node->GetChild(i)) // null entries get no row
+            InsertRow(next++, child);
     node->Expand(1);
     ScrollItemIntoView(row + 1);
     EndUpdate();
@@ -547,8 +551,9 @@ void VU_CTreeListBox::Expand(int row) {
 void VU_CTreeListBox::ExpandThisAndParent(CTreeNode* node) {
     if (node == nullptr)
         return;
+    // The ancestors only: the node itself keeps its state.
     std::vector<CTreeNode*> chain;
-    for (CTreeNode* n = node; n != nullptr; n = n->GetParent())
+    for (CTreeNode* n = node->GetParent(); n != nullptr; n = n->GetParent())
         chain.push_back(n);
     BeginUpdate();
     for (auto it = chain.rbegin(); it != chain.rend(); ++it) {
@@ -655,6 +660,13 @@ void VU_CTreeListBox::SetTabStops(const CWordArray& stops) {
 
 void VU_CTreeListBox::UseTooltipParent() {
     m_useTooltipParent = 1;
+    // A tool tip made already (on subclassing) is made again for its new owner.
+    if (m_tooltip != nullptr) {
+        m_tooltip->DestroyWindow();
+        delete m_tooltip;
+        m_tooltip = nullptr;
+        CreateToolTip();
+    }
 }
 
 // ---- Overridables ----------------------------------------------------------------------------
@@ -779,6 +791,10 @@ CString VU_CTreeListBox::GetTabbedTextUnderPoint(const CPoint& point, const CStr
 }
 
 BOOL VU_CTreeListBox::DoesTextFitWithinRect(int row) {
+    return DoesColumnFit(row, -1);
+}
+
+BOOL VU_CTreeListBox::DoesColumnFit(int row, int column) {
     CTreeNode* node = GetNode(row);
     if (node == nullptr || node->IsSeparator())
         return TRUE;
@@ -796,6 +812,8 @@ BOOL VU_CTreeListBox::DoesTextFitWithinRect(int row) {
         const auto parts = SplitColumns(view);
         const auto starts = ColumnStartsFor(static_cast<int>(parts.size()));
         for (size_t k = 0; k < parts.size() && fits; ++k) {
+            if (column >= 0 && static_cast<size_t>(column) != k)
+                continue;
             const int colLeft = left + starts[k];
             const int colRight =
                 k + 1 < parts.size() ? left + starts[k + 1] - kColumnGap : rc.right;
@@ -828,9 +846,13 @@ void VU_CTreeListBox::DrawItem(LPDRAWITEMSTRUCT dis) {
 
     COLORREF background = GetSysColor(COLOR_WINDOW);
     COLORREF foreground = GetSysColor(COLOR_WINDOWTEXT);
-    if (selected) {
+    if (selected && HasFocus()) {
         background = GetSysColor(COLOR_HIGHLIGHT);
         foreground = GetSysColor(COLOR_HIGHLIGHTTEXT);
+    } else if (selected) {
+        // Without the focus the selection stays visible but quiet, as in the
+        // system's list controls.
+        background = GetSysColor(COLOR_BTNFACE);
     } else if (node->IsHeader()) {
         background = GetSysColor(COLOR_BTNFACE);
     }
@@ -1055,9 +1077,11 @@ LRESULT VU_CTreeListBox::OnLButtonDown(WPARAM wParam, LPARAM lParam) {
     if (IsOnScrollBar(point))
         return CListBox::WindowProc(WM_LBUTTONDOWN, wParam, lParam);
     const int row = RowFromPoint(point);
-    CTreeNode* node = GetNode(row);
-    // Select first: a toggle that scrolls must not move the click to another row.
+    // Select first: a toggle that scrolls must not move the click to another
+    // row. The parent may delete or rebuild the tree when told of the new
+    // selection, so the row's node is read only afterwards.
     const LRESULT result = CListBox::WindowProc(WM_LBUTTONDOWN, wParam, lParam);
+    CTreeNode* node = GetNode(row);
     if (node != nullptr && IsOnExpandButton(point.x, node->GetLevel(), m_leftGutter)) {
         if (node->IsExpanded())
             Collapse(row);
@@ -1239,15 +1263,19 @@ BOOL VU_CTreeListBox::GetToolTipText(NMTTDISPINFOW* info, LRESULT* result) {
     m_tooltipRow = row;
     CTreeNode* node = GetNode(row);
     if (node == nullptr || node->IsSeparator() || DoesTextFitWithinRect(row))
-        return TRUE; // an empty text shows no tip
+        return TRUE; // an empty text shows no tip; nothing is cut
 
+    // The tip belongs to the text under the mouse: with columns, the column
+    // under it (the first one over the button and the image), shown only
+    // when that column is cut.
     CString text = GetTooltipDisplayText(node);
-    int textLeft = 0;
-    if (m_displayInColumns && GetTextUnderPoint(point, row, textLeft)) {
-        int column = textLeft;
-        const CString part = GetTabbedTextUnderPoint(point, text, &column);
-        if (!part.IsEmpty())
-            text = part;
+    if (m_displayInColumns) {
+        int column = 0;
+        GetTextUnderPoint(point, row, column);
+        const CPoint onText(std::max<LONG>(point.x, column), point.y);
+        text = GetTabbedTextUnderPoint(onText, text, &column);
+        if (column < 0 || DoesColumnFit(row, column))
+            text.Empty();
     }
     m_tooltipText = text;
     const int length = std::min(text.GetLength(), static_cast<int>(std::size(m_tooltipBuffer)) - 1);

@@ -117,6 +117,8 @@ public:
 
     // ---- Expansion and scrolling ---------------------------------------------------
     virtual void Expand(int row);
+    // Expands each collapsed ancestor of node, outermost first, so that the
+    // node shows; the node itself keeps its state.
     virtual void ExpandThisAndParent(CTreeNode* node);
     virtual void Collapse(int row);
     void CollapseAllBranches();
@@ -134,6 +136,8 @@ public:
     int GetLeftGutterSize() const { return m_leftGutter; }
     // Column positions in average character widths from the text's start.
     void SetTabStops(const CWordArray& stops);
+    // The tool tip belongs to the parent window from now on (made again if
+    // it exists already).
     void UseTooltipParent();
 
     // ---- Overridables -------------------------------------------------------------------------
@@ -141,6 +145,9 @@ public:
     virtual int FindNoCaseChildStringItem(const CString& text, CString& foundText, int length,
                                           int matchParents, int exactBeforeTab);
     virtual BOOL GetToolTipText(NMTTDISPINFOW* info, LRESULT* result);
+    // Whether the selected row is drawn highlighted (COLOR_HIGHLIGHT);
+    // without the focus it is drawn on COLOR_BTNFACE. Default: the window
+    // has the keyboard focus.
     virtual BOOL HasFocus();
     virtual CTreeNode* CreateTreeNode(const CString& text, const VU_CImageIndexArray& images,
                                       unsigned long itemData, int handle, CTreeNode* parent);
@@ -204,6 +211,8 @@ protected:
 
 private:
     void CreateToolTip();
+    // Whether one column of the row's text (-1: every column) fits.
+    BOOL DoesColumnFit(int row, int column);
     HFONT GetControlFont() const;
     HFONT GetBoldFont();
     int GetAverageCharWidth();

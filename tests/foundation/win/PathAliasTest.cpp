@@ -65,17 +65,4 @@ TEST_F(PathAlias, RemoveAliasesRestoresLongNames) {
     EXPECT_EQ(Narrow(q.GetFullPath().View()), Narrow(m_file));
 }
 
-TEST_F(PathAlias, DirectoryOnlyPathAndGetLongName) {
-    AF_CPath p((ShortForm(m_dir) + L"\\").c_str());
-    EXPECT_FALSE(p.RemoveAliases()); // converted, but no file part to look up
-    EXPECT_EQ(Narrow(p.GetFullPath().View()), Narrow(m_dir + L"\\"));
-
-    // GetLongName gives the last component.
-    CString name;
-    EXPECT_TRUE(AF_CPath::GetLongName(ShortForm(m_file).c_str(), &name));
-    EXPECT_EQ(Narrow(name.View()), "A Long File Name.text");
-    EXPECT_TRUE(AF_CPath::GetLongName(ShortForm(m_dir).c_str(), &name));
-    EXPECT_EQ(Narrow(name.View()), Narrow(m_dir.substr(m_dir.rfind(L'\\') + 1)));
-}
-
 } // namespace

@@ -1,13 +1,15 @@
 // Compares vu::SplitPath with the C runtime's own _wsplitpath over a few
-// thousand generated paths. Any difference is a fault in our splitter: the
-// runtime is the reference.
+// thousand generated paths (the portable suite runs the same paths through
+// both builds). Any difference is a fault in our splitter: the runtime is
+// the reference, except that where its fixed buffers make it give up on a
+// long part, our parts must stay whole and follow the same rules.
+#include "../PathGenerator.h"
 #include "foundation/SplitPath.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <cstdlib>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -24,10 +26,7 @@ struct Split {
     bool operator==(const Split&) const = default;
 };
 
-// Which parts a call asks for (the runtime checks only those).
-struct Mask {
-    bool drive, dir, fname, ext;
-};
+using vu::test::Mask;
 
 Split RuntimeSplit(const std::wstring& path, Mask mask) {
     static wchar_t d[kBuffer], di[kBuffer], f[kBuffer], e[kBuffer];
@@ -80,100 +79,21 @@ std::string Show(const Split& s) {
            " fname=" + Show(s.fname) + " ext=" + Show(s.ext);
 }
 
-// Concatenates in order (the pieces are drawn left to right, so the
-// generated paths do not depend on the compiler's evaluation order).
-std::wstring Cat(std::initializer_list<std::wstring> parts) {
-    std::wstring out;
-    for (const auto& part : parts)
-        out.append(part);
-    return out;
+// Where the runtime gave up: the parts still make up the path, and each
+// follows the splitting rules.
+bool WholeParts(const std::wstring& path, const Split& s) {
+    const auto isSep = [](wchar_t c) { return c == L'\\' || c == L'/'; };
+    const std::wstring name = s.fname + s.ext;
+    return s.ok && s.drive + s.dir + name == path &&
+           (s.drive.empty() || (s.drive.size() == 2 && s.drive[1] == L':')) &&
+           (s.dir.empty() || isSep(s.dir.back())) &&
+           name.find_first_of(L"\\/") == std::wstring::npos &&
+           (s.ext.empty() || (s.ext[0] == L'.' && s.ext.find(L'.', 1) == std::wstring::npos)) &&
+           (!s.ext.empty() || name.find(L'.') == std::wstring::npos);
 }
 
-// Builds paths from the pieces that matter to splitting: drive prefixes
-// (valid and odd), UNC roots, separators of both kinds (single, doubled,
-// trailing), dots, spaces, non-ASCII units and names around the runtime's
-// 255-unit part limits.
-class PathGenerator {
-public:
-    explicit PathGenerator(unsigned seed) : m_rng(seed) {}
-
-    std::wstring Next() {
-        std::wstring path = Prefix();
-        const int components = Pick(0, 5);
-        for (int i = 0; i < components; ++i) {
-            path += Component();
-            if (i + 1 < components || Pick(0, 3) == 0)
-                path += Separator();
-        }
-        if (Pick(0, 6) == 0)
-            path = Cat({L" ", path, L" "});
-        return path;
-    }
-
-    Mask NextMask() {
-        // Mostly every part, as the path class asks; sometimes a subset.
-        if (Pick(0, 3) != 0)
-            return {true, true, true, true};
-        return {Pick(0, 1) == 1, Pick(0, 1) == 1, Pick(0, 1) == 1, Pick(0, 1) == 1};
-    }
-
-private:
-    int Pick(int lo, int hi) { return std::uniform_int_distribution<int>(lo, hi)(m_rng); }
-
-    std::wstring Prefix() {
-        // clang-format off
-        static const std::wstring prefixes[] = {
-            L"", L"C:", L"c:", L"z:\\", L"C:/", L"1:", L":", L"::", L"\\:", L".:", L"\\\\",
-            L"\\\\srv\\share\\", L"//srv/share/", L"\\", L"/", L".\\", L"..\\", L"../",
-            L"\\\\?\\C:\\", L"\u00e9:", L"C:\\\\"
-        };
-        // clang-format on
-        return prefixes[Pick(0, static_cast<int>(std::size(prefixes)) - 1)];
-    }
-
-    std::wstring Separator() {
-        static const std::wstring seps[] = {L"\\", L"/", L"\\\\", L"//", L"\\/", L"/\\"};
-        return seps[Pick(0, static_cast<int>(std::size(seps)) - 1)];
-    }
-
-    std::wstring Component() {
-        switch (Pick(0, 9)) {
-        case 0:
-            return L".";
-        case 1:
-            return L"..";
-        case 2:
-            return Cat({Word(Pick(1, 8)), L".", Word(Pick(0, 4))});
-        case 3:
-            return Cat({L".", Word(Pick(1, 5))});
-        case 4:
-            return Cat({Word(Pick(1, 6)), L"."});
-        case 5:
-            return Cat({Word(Pick(1, 4)), L".", Word(Pick(1, 4)), L".", Word(Pick(0, 3))});
-        case 6: // around the 255-unit part limits
-            return Word(Pick(245, 262));
-        case 7:
-            return Cat({Word(Pick(120, 140)), L".", Word(Pick(110, 140))});
-        case 8:
-            return Cat({Word(Pick(1, 3)), L".", Word(Pick(250, 258))});
-        default:
-            return Word(Pick(1, 12));
-        }
-    }
-
-    std::wstring Word(int length) {
-        static const wchar_t units[] = L"abcXYZ019_- ~$\u00e4\u00df\u4e2d:";
-        std::wstring w;
-        for (int i = 0; i < length; ++i)
-            w += units[Pick(0, static_cast<int>(std::size(units)) - 2)];
-        return w;
-    }
-
-    std::mt19937 m_rng;
-};
-
 TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
-    PathGenerator gen(20240611u);
+    vu::test::PathGenerator gen(20240611u);
     constexpr int kPaths = 5000;
     int differences = 0;
     int overlong = 0, withDrive = 0, withDir = 0, withExt = 0, partial = 0;
@@ -182,7 +102,11 @@ TEST(PathSplitDifferential, GeneratedPathsSplitAsTheRuntimeDoes) {
         const Mask mask = gen.NextMask();
         const Split expected = RuntimeSplit(path, mask);
         const Split actual = CoreSplit(path, mask);
-        overlong += expected.ok ? 0 : 1;
+        if (!expected.ok) {
+            ++overlong;
+            EXPECT_TRUE(WholeParts(path, CoreSplit(path, {true, true, true, true}))) << Show(path);
+            continue;
+        }
         withDrive += expected.drive.empty() ? 0 : 1;
         withDir += expected.dir.empty() ? 0 : 1;
         withExt += expected.ext.empty() ? 0 : 1;
@@ -212,15 +136,19 @@ TEST(PathSplitDifferential, HandPickedEdgesSplitAsTheRuntimeDoes) {
         L"", L"C:", L"C:\\", L"C:file", L"\\", L"/", L".", L"..", L"...", L".ext", L"name.",
         L"a.b.c", L"dir.d\\name", L"\\\\srv\\share", L"\\\\srv\\share\\",
         L"\\\\srv\\share\\d\\f.txt", L"C:/a/b/f.txt", L"C:\\a\\\\b\\\\",
-        L"  C:\\Work\\Project.ACD  ", L"a:b:c", Cat({L"\\", longPart.substr(0, 254), L"\\f"}),
-        Cat({L"\\", longPart, L"\\f"}), longPart, Cat({longPart, L"n"}),
-        Cat({L"f.", longPart.substr(0, 254)}), Cat({L"f.", longPart})
+        L"  C:\\Work\\Project.ACD  ", L"a:b:c", L"\\" + longPart.substr(0, 254) + L"\\f",
+        L"\\" + longPart + L"\\f", longPart, longPart + L"n", L"f." + longPart.substr(0, 254),
+        L"f." + longPart
     };
     // clang-format on
     for (const auto& path : cases) {
         SCOPED_TRACE(Show(path));
         const Mask all{true, true, true, true};
-        EXPECT_EQ(Show(CoreSplit(path, all)), Show(RuntimeSplit(path, all)));
+        const Split expected = RuntimeSplit(path, all);
+        if (expected.ok)
+            EXPECT_EQ(Show(CoreSplit(path, all)), Show(expected));
+        else
+            EXPECT_TRUE(WholeParts(path, CoreSplit(path, all))) << Show(CoreSplit(path, all));
     }
 }
 

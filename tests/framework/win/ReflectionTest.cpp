@@ -200,24 +200,6 @@ TEST(ReflectionTest, ControlNotificationsGoToTheChildFirst) {
     EXPECT_EQ(parent.Count(WM_NOTIFY), 0);
 }
 
-TEST(ReflectionTest, RealClickSelectionStillReachesThePlainParent) {
-    vutest::PlainWindow parent(vutest::Stage(), WS_VISIBLE);
-    ClaimingListBox box;
-    ASSERT_TRUE(CreateList(box, parent.hwnd, LBS_NOTIFY | LBS_HASSTRINGS));
-    box.AddString(L"alpha");
-    box.AddString(L"beta");
-    CRect row;
-    box.GetItemRect(1, &row);
-    SendMessageW(box.m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(row.left + 5, row.top + 2));
-    SendMessageW(box.m_hWnd, WM_LBUTTONUP, 0, MAKELPARAM(row.left + 5, row.top + 2));
-    EXPECT_EQ(box.GetCurSel(), 1);
-    bool sawSelChange = false;
-    for (const vutest::ReceivedMessage& m : parent.received)
-        sawSelChange |= m.message == WM_COMMAND && HIWORD(m.wParam) == LBN_SELCHANGE &&
-                        LOWORD(m.wParam) == kListId;
-    EXPECT_TRUE(sawSelChange);
-}
-
 TEST(ReflectionTest, TwoChildrenShareOneWatchOnTheParent) {
     vutest::PlainWindow parent(vutest::Stage(), WS_VISIBLE);
     auto* first = new DrawingListBox;

@@ -146,14 +146,6 @@ vu::String Expand(const vu::String& text, const std::pair<int, int> groups[10],
     return out;
 }
 
-TEST(RegExpressionPcre2, TranslationOfSetsAndEscapes) {
-    EXPECT_EQ(Show(ToPcre2(VU_T("[]a-c]"))), "[\\x{5d}\\x{61}\\x{62}\\x{63}]");
-    EXPECT_EQ(Show(ToPcre2(VU_T("[^-\\]"))), "[^\\x{2d}\\x{5c}]");
-    EXPECT_EQ(Show(ToPcre2(VU_T("\\d{2}"))), "\\x{64}\\x{7b}\\x{32}\\x{7d}");
-    EXPECT_EQ(Show(ToPcre2(VU_T("(a|b)*$"))), "(\\x{61}|\\x{62})*(?:$)");
-    EXPECT_EQ(Show(ToPcre2(VU_T("^?a"))), "(?:^)?\\x{61}");
-}
-
 TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
     RegExpressionPatternGenerator gen(0x5eed2024);
     const vu::String templ = VU_T("<&|\\1|\\2\\\\\\&>");

@@ -22,7 +22,6 @@ TEST_F(TreeListTest, DrawsBackgroundsLinesButtonsAndImages) {
     const int right = picture.Width() - 2;
 
     SCOPED_TRACE("backgrounds");
-    EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), picture.At(right, MidY(a + 1)));
     EXPECT_EQ(GetSysColor(COLOR_WINDOW), picture.At(right, MidY(a + 2)));
     EXPECT_EQ(GetSysColor(COLOR_BTNFACE), picture.At(right, MidY(0)));
 
@@ -75,21 +74,34 @@ TEST_F(TreeListTest, HeaderTextIsBold) {
 class GreyList : public VU_CTreeListBox {
 public:
     BOOL IsItemEnabled(int row, long) override { return row != 1; }
+    BOOL HasFocus() override { return focus; }
+    BOOL focus = TRUE;
 };
 
-TEST(TreeListDrawing, DisabledRowsAreGrey) {
+// Disabled rows are grey; the selected row is highlighted only while the
+// control has the focus (as a derived HasFocus tells), else it keeps a quiet
+// background.
+TEST(TreeListDrawing, DisabledRowsAndTheSelectionFollowTheOverrides) {
     ParentWindow parent;
     GreyList list;
     ASSERT_TRUE(CreateList(list, parent));
-    list.AddItem(S(L"Enabled row"), -1, -1, 0);
+    list.AddItem(S(L"Selected row"), -1, -1, 0);
     list.AddItem(S(L"Disabled row"), -1, -1, 0);
-    ClientPicture picture(list.m_hWnd);
-    const COLORREF grey = GetSysColor(COLOR_GRAYTEXT);
-    const COLORREF text = GetSysColor(COLOR_WINDOWTEXT);
-    EXPECT_TRUE(picture.HasColour(0, 0, picture.Width(), kRowHeight, text));
-    EXPECT_FALSE(picture.HasColour(0, 0, picture.Width(), kRowHeight, grey));
-    EXPECT_TRUE(picture.HasColour(0, kRowHeight, picture.Width(), 2 * kRowHeight, grey));
-    EXPECT_FALSE(picture.HasColour(0, kRowHeight, picture.Width(), 2 * kRowHeight, text));
+    list.AddItem(S(L"Enabled row"), -1, -1, 0);
+    SendMessageW(list.m_hWnd, LB_SETCURSEL, 0, 0);
+    const COLORREF grey = GetSysColor(COLOR_GRAYTEXT), text = GetSysColor(COLOR_WINDOWTEXT);
+    for (BOOL focus : {TRUE, FALSE}) {
+        SCOPED_TRACE(focus ? "focus" : "no focus");
+        list.focus = focus;
+        ClientPicture picture(list.m_hWnd);
+        const int w = picture.Width();
+        EXPECT_EQ(GetSysColor(focus ? COLOR_HIGHLIGHT : COLOR_BTNFACE), picture.At(w - 2, MidY(0)));
+        EXPECT_TRUE(picture.HasColour(list.GetTextLeft(0), 0, w, kRowHeight,
+                                      focus ? GetSysColor(COLOR_HIGHLIGHTTEXT) : text));
+        EXPECT_TRUE(picture.HasColour(0, kRowHeight, w, 2 * kRowHeight, grey));
+        EXPECT_FALSE(picture.HasColour(0, kRowHeight, w, 2 * kRowHeight, text));
+        EXPECT_FALSE(picture.HasColour(0, 2 * kRowHeight, w, 3 * kRowHeight, grey));
+    }
 }
 
 TEST(TreeListDrawing, ColumnsKeepToTheirTabStops) {
@@ -151,12 +163,64 @@ TEST(TreeListToolTip, TheTipIsTheTextOrColumnUnderTheMouseThatDoesNotFit) {
     VU_CTreeListBox columns;
     ASSERT_TRUE(CreateList(columns, parent, 200, 4));
     CWordArray stops;
-    stops.Add(4);
+    stops.Add(8);
     columns.SetTabStops(stops);
     columns.AddItem(S(L"Tag\tA long description of the tag that cannot fit"), -1, -1, 0);
     UpdateWindow(parent.Handle());
-    EXPECT_EQ(L"A long description of the tag that cannot fit",
-              TipAt(columns, columns.GetTextLeft(0) + 100, 0));
+    columns.AddItem(S(L"Tag\tfits"), -1, -1, 0);
+    columns.AddItem(S(L"A name far too long for its column\tfits"), -1, -1, 0);
+    UpdateWindow(parent.Handle());
+    const int second = columns.GetTextLeft(0) + 100;
+    EXPECT_EQ(L"A long description of the tag that cannot fit", TipAt(columns, second, 0));
+    EXPECT_EQ(L"", TipAt(columns, columns.GetTextLeft(0) + 2, 0)) << "the first column fits";
+    EXPECT_EQ(L"", TipAt(columns, second, 1)) << "nothing is cut";
+    EXPECT_EQ(L"", TipAt(columns, second, 2)) << "only the other column is cut";
+    EXPECT_EQ(L"A name far too long for its column", TipAt(columns, 4, 2))
+        << "over the button: the first column, without tabs";
+}
+
+// The tool tip windows of this thread owned by owner.
+int TipsOwnedBy(HWND owner) {
+    int count = 0;
+    for (HWND tip = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr); tip != nullptr;
+         tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr))
+        count += GetWindow(tip, GW_OWNER) == owner ? 1 : 0;
+    return count;
+}
+
+// A drop-down list is a pop-up: its tip belongs to it until it is told to
+// use its parent's, even after the tip was made.
+TEST(TreeListToolTip, UseTooltipParentMovesAnExistingTipToTheParent) {
+    ParentWindow parent;
+    VU_CTreeListBox list;
+    ASSERT_TRUE(list.Create(WS_POPUP | LBS_OWNERDRAWFIXED | LBS_NOTIFY, CRect(0, 0, 100, 100),
+                            parent.Handle(), 0));
+    ASSERT_EQ(1, TipsOwnedBy(list.m_hWnd));
+    list.UseTooltipParent();
+    EXPECT_EQ(0, TipsOwnedBy(list.m_hWnd));
+    EXPECT_EQ(1, TipsOwnedBy(parent.Handle()));
+}
+
+// Counts the list-box queries a row search costs.
+LRESULT CALLBACK CountingProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* counts = reinterpret_cast<int*>(GetPropW(hWnd, L"counts"));
+    counts[0] += message == LB_GETCOUNT ? 1 : 0;
+    counts[1] += message == LB_GETITEMDATA ? 1 : 0;
+    return CallWindowProcW(reinterpret_cast<WNDPROC>(GetPropW(hWnd, L"next")), hWnd, message,
+                           wParam, lParam);
+}
+
+TEST_F(TreeListTest, RowSearchesAskOneQueryPerRow) {
+    for (int i = 0; i < 50; ++i)
+        list->AddItem(S(L"row"), -1, -1, static_cast<unsigned long>(i));
+    int counts[2] = {0, 0};
+    SetPropW(Hwnd(), L"counts", counts);
+    SetPropW(Hwnd(), L"next",
+             reinterpret_cast<HANDLE>(SetWindowLongPtrW(Hwnd(), GWLP_WNDPROC,
+                                                        reinterpret_cast<LONG_PTR>(CountingProc))));
+    EXPECT_EQ(-1, list->FindNoCaseChildString(S(L"none"), 4, 1));
+    EXPECT_LE(counts[0] + counts[1], 50 + 2);
+    SetWindowLongPtrW(Hwnd(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(GetPropW(Hwnd(), L"next")));
 }
 
 TEST(TreeListToolTip, TheControlHasItsToolTipWindow) {

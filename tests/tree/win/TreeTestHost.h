@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,6 +43,7 @@ public:
 
     HWND Handle() const { return m_hWnd; }
     std::vector<Command> commands;
+    std::function<void(const Command&)> onCommand; // runs inside the notification
 
     int CountCommands(int code) const {
         return static_cast<int>(std::count_if(commands.begin(), commands.end(),
@@ -55,9 +57,12 @@ private:
             SetWindowLongPtrW(hWnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(cs->lpCreateParams));
         }
         auto* self = reinterpret_cast<ParentWindow*>(GetWindowLongPtrW(hWnd, GWLP_USERDATA));
-        if (message == WM_COMMAND && self != nullptr)
+        if (message == WM_COMMAND && self != nullptr) {
             self->commands.push_back(
                 {LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
+            if (self->onCommand)
+                self->onCommand(self->commands.back());
+        }
         return DefWindowProcW(hWnd, message, wParam, lParam);
     }
 
