@@ -11,6 +11,8 @@
 #include "framework/Size.h"
 #include "framework/Types.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <unordered_set>
 #include <vector>
@@ -111,7 +113,9 @@ protected:
     }
 
 private:
-    size_t Index(int row, int col) const { return size_t(row) * size_t(m_cols) + size_t(col); }
+    std::size_t Index(int row, int col) const {
+        return std::size_t(row) * std::size_t(m_cols) + std::size_t(col);
+    }
     bool Grow(int rows, int cols) {
         if (std::int64_t(rows) * cols > kMaxCells)
             return false;
@@ -120,12 +124,13 @@ private:
     }
     void Resize(int rows, int cols) {
         if (cols == m_cols) {
-            m_cells.resize(size_t(rows) * size_t(cols), nullptr);
+            m_cells.resize(std::size_t(rows) * std::size_t(cols), nullptr);
         } else {
-            std::vector<T*> cells(size_t(rows) * size_t(cols), nullptr);
+            std::vector<T*> cells(std::size_t(rows) * std::size_t(cols), nullptr);
             for (int r = 0; r < std::min(rows, m_rows); ++r)
                 for (int c = 0; c < std::min(cols, m_cols); ++c)
-                    cells[size_t(r) * size_t(cols) + size_t(c)] = m_cells[Index(r, c)];
+                    cells[std::size_t(r) * std::size_t(cols) + std::size_t(c)] =
+                        m_cells[Index(r, c)];
             m_cells.swap(cells);
         }
         m_rows = rows;
