@@ -28,7 +28,6 @@
 #define IDI_VU_LAYOUT_CONTACT 4601
 #define IDI_VU_LAYOUT_COIL 4602
 #define IDI_VU_LAYOUT_LAMP 4603
-#define IDB_VU_LAYOUT_WIRE 4611
 #define IDB_VU_LAYOUT_TIMER 4612
 #define IDB_VU_LAYOUT_PROBE 4613     // 8x4 test pattern: red | blue, bottom row magenta
 #define IDB_VU_LAYOUT_PROBE_ALT 4614 // 5x3 green test pattern

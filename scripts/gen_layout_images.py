@@ -7,12 +7,10 @@ both sizes come from one description:
   Contact.ico  a normally open contact  -| |-
   Coil.ico     an output coil           -( )-
   Lamp.ico     an indicator lamp
-Bitmaps (.bmp, 24 bits, magenta (255,0,255) where the background shows
-through when drawn transparently):
-  Wire.bmp     24x16  a rung wire segment
+Bitmaps (.bmp, 24 bits):
   Timer.bmp    48x32  a timer instruction block
   Probe.bmp    8x4    for tests: rows 0-2 red on the left half and blue on
-                      the right, row 3 magenta
+                      the right, row 3 magenta (the transparency colour)
   ProbeAlt.bmp 5x3    for tests: all green
 
 Usage: scripts/gen_layout_images.py [output directory]
@@ -122,10 +120,6 @@ def bmp(rows):
     return head + info + pixels
 
 
-def wire_bitmap():
-    return [[WIRE if 7 <= y <= 8 else MAGENTA for x in range(24)] for y in range(16)]
-
-
 def timer_bitmap():
     w, h = 48, 32
     rows = [[WHITE] * w for _ in range(h)]
@@ -154,7 +148,6 @@ def main():
         'Contact.ico': ico([contact(16), contact(32)]),
         'Coil.ico': ico([coil(16), coil(32)]),
         'Lamp.ico': ico([lamp(16), lamp(32)]),
-        'Wire.bmp': bmp(wire_bitmap()),
         'Timer.bmp': bmp(timer_bitmap()),
         'Probe.bmp': bmp(probe_bitmap()),
         'ProbeAlt.bmp': bmp([[(0, 255, 0)] * 5 for _ in range(3)]),
