@@ -191,6 +191,9 @@ void LadderDiagram(Context& c) {
     c.Check(onHidden.GetHit() == nullptr, "the hidden contact is not hit");
     const CRect timerRect = static_cast<VU_CConcreteElement*>(d.timer)->GetObjectRect();
     c.Check(timerRect.Width() == 48 && timerRect.Height() == 32, "the timer keeps its size");
+    VU_CHitTestVisitor onTimer(timerRect.CenterPoint());
+    d.root.Accept(&onTimer);
+    c.Check(onTimer.GetHit() == d.timer, "a hit on the timer bitmap finds it");
 
     c.SaveClientPng(frame, L"layout_ladder_diagram");
     SetWindowLongPtrW(view, GWLP_USERDATA, 0);

@@ -12,18 +12,15 @@ class VU_CLayoutElementContainer;
 class VU_CBoundingRectVisitor : public VU_CLayoutElementVisitor {
 public:
     void Visit(VU_CConcreteElement* leaf) override;
-    void Visit(VU_CLayoutCell* cell) override;
-    void Visit(VU_COrderedLayoutContainer* container) override;
-    void Visit(VU_CLayoutQuadContainer* container) override;
-    void Visit(VU_CLayoutCollection* collection) override;
-    void Visit(VU_CLayoutGrid* grid) override;
 
     // Empty (all zeros) when nothing visible was found.
     CRect GetBoundingRect() const { return m_rectBounds; }
 
-private:
+protected:
     // Adds the container's rectangle if decorated; false when it is hidden.
-    bool Enter(VU_CLayoutElementContainer* container);
+    bool OnEnterContainer(VU_CLayoutElementContainer* container) override;
+
+private:
     void Add(CRect rect);
 
     CRect m_rectBounds;

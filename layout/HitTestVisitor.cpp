@@ -1,36 +1,11 @@
 #include "layout/HitTestVisitor.h"
 
 #include "layout/ConcreteElement.h"
-#include "layout/LayoutCell.h"
-#include "layout/LayoutCollection.h"
-#include "layout/LayoutGrid.h"
-#include "layout/LayoutQuadContainer.h"
-#include "layout/OrderedLayoutContainer.h"
+#include "layout/LayoutElementContainer.h"
 
 void VU_CHitTestVisitor::Visit(VU_CConcreteElement* leaf) {
     if (leaf->GetVisibility() != VU_LayoutDefs::HIDDEN && Contains(leaf->GetObjectRect()))
         m_pHit = leaf;
-}
-
-void VU_CHitTestVisitor::Visit(VU_CLayoutCell* cell) {
-    if (Enter(cell))
-        VU_CLayoutElementVisitor::Visit(cell);
-}
-void VU_CHitTestVisitor::Visit(VU_COrderedLayoutContainer* container) {
-    if (Enter(container))
-        VU_CLayoutElementVisitor::Visit(container);
-}
-void VU_CHitTestVisitor::Visit(VU_CLayoutQuadContainer* container) {
-    if (Enter(container))
-        VU_CLayoutElementVisitor::Visit(container);
-}
-void VU_CHitTestVisitor::Visit(VU_CLayoutCollection* collection) {
-    if (Enter(collection))
-        VU_CLayoutElementVisitor::Visit(collection);
-}
-void VU_CHitTestVisitor::Visit(VU_CLayoutGrid* grid) {
-    if (Enter(grid))
-        VU_CLayoutElementVisitor::Visit(grid);
 }
 
 bool VU_CHitTestVisitor::Contains(CRect rect) const {
@@ -38,7 +13,7 @@ bool VU_CHitTestVisitor::Contains(CRect rect) const {
     return rect.PtInRect(m_point);
 }
 
-bool VU_CHitTestVisitor::Enter(const VU_CLayoutElementContainer* container) const {
+bool VU_CHitTestVisitor::OnEnterContainer(VU_CLayoutElementContainer* container) {
     return container->GetVisibility() != VU_LayoutDefs::HIDDEN &&
            Contains(container->GetLayoutRect());
 }

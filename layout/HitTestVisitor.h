@@ -14,18 +14,16 @@ public:
     explicit VU_CHitTestVisitor(CPoint point) : m_point(point) {}
 
     void Visit(VU_CConcreteElement* leaf) override;
-    void Visit(VU_CLayoutCell* cell) override;
-    void Visit(VU_COrderedLayoutContainer* container) override;
-    void Visit(VU_CLayoutQuadContainer* container) override;
-    void Visit(VU_CLayoutCollection* collection) override;
-    void Visit(VU_CLayoutGrid* grid) override;
 
     // Null when no leaf lies under the point.
     VU_CConcreteElement* GetHit() const { return m_pHit; }
 
+protected:
+    // Enters visible containers whose rectangle holds the point.
+    bool OnEnterContainer(VU_CLayoutElementContainer* container) override;
+
 private:
     bool Contains(CRect rect) const;
-    bool Enter(const VU_CLayoutElementContainer* container) const;
 
     CPoint m_point;
     VU_CConcreteElement* m_pHit = nullptr;

@@ -18,15 +18,13 @@ public:
     explicit VU_CInvertVisitor(int axis = 0) : m_nAxis(axis) {}
 
     void Visit(VU_CConcreteElement* leaf) override;
-    void Visit(VU_CLayoutCell* cell) override;
-    void Visit(VU_COrderedLayoutContainer* container) override;
-    void Visit(VU_CLayoutQuadContainer* container) override;
-    void Visit(VU_CLayoutCollection* collection) override;
-    void Visit(VU_CLayoutGrid* grid) override;
+
+protected:
+    // Mirrors the container's layout rectangle.
+    bool OnEnterContainer(VU_CLayoutElementContainer* container) override;
 
 private:
     CRect Mirror(const CRect& rect) const;
-    void Invert(VU_CLayoutElementContainer* container) const;
 
     int m_nAxis;
 };

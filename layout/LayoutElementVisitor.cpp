@@ -18,15 +18,20 @@ void VisitList(DwIVisitor* visitor, const VU_CLayoutListContainer& list) {
 void VU_CLayoutElementVisitor::Visit(VU_CConcreteElement*) {}
 
 void VU_CLayoutElementVisitor::Visit(VU_CLayoutCell* cell) {
+    if (!OnEnterContainer(cell))
+        return;
     if (VU_CLayoutElement* element = cell->GetElement())
         element->Accept(this);
 }
 
 void VU_CLayoutElementVisitor::Visit(VU_COrderedLayoutContainer* container) {
-    VisitList(this, *container);
+    if (OnEnterContainer(container))
+        VisitList(this, *container);
 }
 
 void VU_CLayoutElementVisitor::Visit(VU_CLayoutQuadContainer* container) {
+    if (!OnEnterContainer(container))
+        return;
     for (int q = 0; q < 4; ++q)
         if (VU_CLayoutElement* element =
                 container->GetElement(static_cast<VU_LayoutDefs::QUADRANT>(q)))
@@ -34,14 +39,21 @@ void VU_CLayoutElementVisitor::Visit(VU_CLayoutQuadContainer* container) {
 }
 
 void VU_CLayoutElementVisitor::Visit(VU_CLayoutCollection* collection) {
-    VisitList(this, *collection);
+    if (OnEnterContainer(collection))
+        VisitList(this, *collection);
 }
 
 void VU_CLayoutElementVisitor::Visit(VU_CLayoutGrid* grid) {
+    if (!OnEnterContainer(grid))
+        return;
     const VU_CMatrix<VU_CLayoutElementContainer>& matrix = grid->GetMatrix();
     const CSize size = matrix.GetSize();
     for (int first = 0; first < size.cx; ++first)
         for (int second = 0; second < size.cy; ++second)
             if (VU_CLayoutElementContainer* entry = matrix.GetAt(first, second))
                 entry->Accept(this);
+}
+
+bool VU_CLayoutElementVisitor::OnEnterContainer(VU_CLayoutElementContainer*) {
+    return true;
 }

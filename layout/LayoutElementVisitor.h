@@ -9,7 +9,8 @@
 // Each child is visited through its own Accept with the same visitor. A
 // visitor that does its own work on some kinds derives from this class,
 // overrides their Visit and calls this class's Visit to go on into the
-// children (or does not, to skip them).
+// children (or does not, to skip them). A visitor that treats every
+// container alike overrides OnEnterContainer instead.
 #include "layout/Visitor.h"
 
 class VU_CConcreteElement;
@@ -18,6 +19,7 @@ class VU_COrderedLayoutContainer;
 class VU_CLayoutQuadContainer;
 class VU_CLayoutCollection;
 class VU_CLayoutGrid;
+class VU_CLayoutElementContainer;
 
 class VU_CLayoutElementVisitor : public DwIVisitor,
                                  public DwIVisit<VU_CConcreteElement>,
@@ -33,4 +35,9 @@ public:
     void Visit(VU_CLayoutQuadContainer* container) override;
     void Visit(VU_CLayoutCollection* collection) override;
     void Visit(VU_CLayoutGrid* grid) override;
+
+protected:
+    // Overrideables
+    // Called on each container before its children; false skips them.
+    virtual bool OnEnterContainer(VU_CLayoutElementContainer* container);
 };

@@ -1,12 +1,17 @@
-// The element model: flags, visibility rules, decorators and visitor dispatch.
+// The element model (flags, visibility, decorators), visitor dispatch and
+// the walk, then the bounding, hit-test, region and invert visitors on a
+// laid-out tree.
 #include "LayoutFakes.h"
 
+#include "layout/BoundingRectVisitor.h"
+#include "layout/HitTestVisitor.h"
+#include "layout/InvertVisitor.h"
 #include "layout/LayoutCell.h"
 #include "layout/LayoutCollection.h"
-#include "layout/LayoutElementVisitor.h"
 #include "layout/LayoutGrid.h"
 #include "layout/LayoutQuadContainer.h"
 #include "layout/OrderedLayoutContainer.h"
+#include "layout/RegionVisitor.h"
 
 #include <gtest/gtest.h>
 
@@ -22,12 +27,10 @@ TEST(LayoutElement, FlagByteAndItsReaders) {
     EXPECT_EQ(203, internal.GetFlags());
     EXPECT_EQ(207, external.GetFlags());
     EXPECT_EQ(203, leaf.GetFlags());
-    EXPECT_TRUE(leaf.IsFlexible(D::HORIZONTAL) && leaf.IsFlexible(D::VERTICAL));
-    EXPECT_EQ(D::VISIBLE, leaf.GetVisibility());
+    EXPECT_TRUE(leaf.IsFlexible(D::HORIZONTAL) && leaf.IsFlexible(D::VERTICAL) &&
+                leaf.GetVisibility() && leaf.AllowHGridAlign() && leaf.AllowVGridAlign());
     EXPECT_FALSE(leaf.IsExternal() || leaf.IsRegionContributor() || leaf.ResizeChild());
-    EXPECT_TRUE(leaf.AllowHGridAlign() && leaf.AllowVGridAlign());
-    EXPECT_TRUE(external.IsExternal());
-    EXPECT_EQ(D::EXTERNAL, external.GetPlacement());
+    EXPECT_TRUE(external.IsExternal() && external.GetPlacement() == D::EXTERNAL);
 
     // Each setter touches its own bit only; any non-zero value means on.
     struct Row {
@@ -40,8 +43,6 @@ TEST(LayoutElement, FlagByteAndItsReaders) {
          203 | 32},
         {"region modifier", [](Leaf& e) { e.SetRegionModifier(D::REGION_MODIFIER_ON); }, 203 | 16},
         {"no h grid", [](Leaf& e) { e.SetAllowHGridAlign(D::NO_HGRID_ALIGN); }, 203 & ~64},
-        {"no v grid", [](Leaf& e) { e.SetAllowVGridAlign(D::NO_VGRID_ALIGN); }, 203 & ~128},
-        {"hidden", [](Leaf& e) { e.SetVisibility(D::HIDDEN); }, 203 & ~8},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -51,21 +52,17 @@ TEST(LayoutElement, FlagByteAndItsReaders) {
         EXPECT_EQ(e.IsRegionContributor() != 0, e.GetRegionModifier() != 0);
         EXPECT_EQ(e.IsExternal() != 0, e.GetPlacement() != 0);
     }
-    EXPECT_FALSE(leaf.IsFlexible(static_cast<D::HV_DIRECTION>(2)));
-    EXPECT_FALSE(leaf.IsFlexible(static_cast<D::HV_DIRECTION>(-1)));
+    EXPECT_FALSE(leaf.IsFlexible(static_cast<D::HV_DIRECTION>(2)) ||
+                 leaf.IsFlexible(static_cast<D::HV_DIRECTION>(-1)));
 
-    Leaf copy(leaf);
     leaf.SetFlexible(0, 0);
-    Leaf assigned(2, 2);
-    assigned = leaf;
-    EXPECT_EQ(203, copy.GetFlags());
-    EXPECT_EQ(200, assigned.GetFlags());
+    Leaf copy(leaf), assigned(2, 2);
+    assigned = copy;
+    EXPECT_EQ(200, assigned.GetFlags()) << "copied with the flag byte";
 }
 
 TEST(LayoutElement, LeafReportsOnlyRealVisibilityChangesContainerAlwaysPassesOn) {
     Leaf leaf(1, 1);
-    leaf.SetVisibility(D::VISIBLE);
-    EXPECT_EQ(0, leaf.visibilityChanges);
     leaf.SetVisibility(static_cast<D::VISIBILITY>(5)); // still "visible"
     EXPECT_EQ(0, leaf.visibilityChanges);
     leaf.SetVisibility(D::HIDDEN);
@@ -169,6 +166,132 @@ TEST(LayoutElement, VisitorsWalkDepthFirstInEachContainersOrder) {
     EXPECT_EQ(0, leaves.count) << "a leaf-only visitor does not enter containers";
     row.GetAt(0)->Accept(&leaves);
     EXPECT_EQ(1, leaves.count);
+}
+
+// A column of: a grid of 2 x 2 cells (icon-sized leaves centred, one
+// bottom-right), then a layer of a wide leaf under a small one.
+struct Diagram {
+    Diagram() : column(D::VERTICAL, 3) {
+        for (int r = 0; r < 2; ++r)
+            for (int c = 0; c < 2; ++c) {
+                leaves[r * 2 + c] = new Leaf(8 + 4 * c, 6 + 2 * r);
+                leaves[r * 2 + c]->SetFlexible(0, 0);
+                const UINT align = r + c == 2 ? D::ALIGN_RIGHT | D::ALIGN_BOTTOM
+                                              : D::ALIGN_HCENTER | D::ALIGN_VCENTER;
+                grid->SetAt(
+                    new VU_CLayoutCell(leaves[r * 2 + c],
+                                       VU_CELLLAYOUT(align, CRect(1, 1, 1, 1), 0, 0, D::INTERNAL)),
+                    r, c);
+            }
+        grid->SetSpacing(2, 2);
+        column.Add(grid);
+        under = new Leaf(40, 10);
+        over = new Leaf(5, 5);
+        over->SetFlexible(0, 0);
+        layers->Add(under);
+        layers->Add(over);
+        column.Add(layers);
+        column.SetLayoutRect(CRect(0, 0, 60, 50));
+        column.RecalcLayout(nullptr);
+    }
+    VU_COrderedLayoutContainer column;
+    VU_CLayoutGrid* grid = new VU_CLayoutGrid;
+    VU_CLayoutCollection* layers = new VU_CLayoutCollection;
+    Leaf* leaves[4];
+    Leaf* under;
+    Leaf* over;
+};
+
+std::vector<CRect> Snapshot(Diagram& d) {
+    std::vector<CRect> rects{d.column.GetLayoutRect(), d.grid->GetLayoutRect(),
+                             d.layers->GetLayoutRect(), d.under->GetObjectRect(),
+                             d.over->GetObjectRect()};
+    for (Leaf* leaf : d.leaves)
+        rects.push_back(leaf->GetObjectRect());
+    return rects;
+}
+
+VU_CConcreteElement* HitAt(VU_CLayoutElement& root, int x, int y) {
+    VU_CHitTestVisitor hit(CPoint(x, y));
+    root.Accept(&hit);
+    return hit.GetHit();
+}
+
+TEST(LayoutVisitors, HitTestFindsTopmostVisibleLeaf) {
+    Diagram d;
+    const CRect layer = d.layers->GetLayoutRect();
+    EXPECT_EQ(layer, d.under->GetObjectRect()) << "a flexible layer fills the collection";
+    EXPECT_EQ(CRect(layer.TopLeft(), CSize(5, 5)), d.over->GetObjectRect());
+    const CRect r3 = d.leaves[3]->GetObjectRect();
+    struct Row {
+        const char* name;
+        CPoint point;
+        VU_CConcreteElement* expected;
+    } rows[] = {
+        {"inside a centred leaf", d.leaves[0]->GetObjectRect().CenterPoint(), d.leaves[0]},
+        {"bottom-right leaf, last pixel", CPoint(r3.right - 1, r3.bottom - 1), d.leaves[3]},
+        {"just past it", CPoint(r3.right, r3.bottom - 1), nullptr},
+        {"the layer on top wins", d.over->GetObjectRect().TopLeft(), d.over},
+        {"the layer below elsewhere", CPoint(30, d.under->GetObjectRect().top), d.under},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        EXPECT_EQ(r.expected, HitAt(d.column, r.point.x, r.point.y));
+    }
+    d.over->SetVisibility(D::HIDDEN);
+    EXPECT_EQ(d.under, HitAt(d.column, d.over->GetObjectRect().left, d.over->GetObjectRect().top));
+    d.grid->SetVisibility(D::HIDDEN);
+    EXPECT_EQ(nullptr, HitAt(d.column, r3.left, r3.top));
+}
+
+TEST(LayoutVisitors, BoundingRectCoversVisibleLeavesAndDecoratedContainers) {
+    Diagram d;
+    d.layers->SetVisibility(D::HIDDEN);
+    VU_CBoundingRectVisitor bounds;
+    d.column.Accept(&bounds);
+    EXPECT_EQ(d.leaves[0]->GetObjectRect() | d.leaves[3]->GetObjectRect(),
+              bounds.GetBoundingRect());
+
+    Log log;
+    d.column.SetDecorator(new Decorator("frame", &log));
+    VU_CBoundingRectVisitor decorated;
+    d.column.Accept(&decorated);
+    EXPECT_EQ(CRect(0, 0, 60, 50), decorated.GetBoundingRect());
+}
+
+TEST(LayoutVisitors, RegionCollectsVisibleContributorsInWalkOrder) {
+    Diagram d;
+    const std::vector<VU_CLayoutElement*> contributors{d.over, d.leaves[2], d.leaves[1], d.layers};
+    for (VU_CLayoutElement* e : contributors)
+        e->SetRegionModifier(D::REGION_MODIFIER_ON);
+    d.leaves[2]->SetVisibility(D::HIDDEN);
+    VU_CRegionVisitor region;
+    d.column.Accept(&region);
+    const CRect leaf = d.leaves[1]->GetObjectRect(), layer = d.layers->GetLayoutRect();
+    EXPECT_EQ((std::vector<CRect>{leaf, layer, d.over->GetObjectRect()}), region.GetRects());
+    EXPECT_EQ(leaf | layer, region.GetBounds());
+}
+
+TEST(LayoutVisitors, InvertMirrorsAndRelayoutAgrees) {
+    Diagram d;
+    const std::vector<CRect> before = Snapshot(d);
+    VU_CInvertVisitor invert(0);
+    d.column.Accept(&invert);
+    const std::vector<CRect> inverted = Snapshot(d);
+    for (size_t i = 0; i < before.size(); ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(CRect(before[i].left, -before[i].top, before[i].right, -before[i].bottom),
+                  inverted[i]);
+    }
+    // Laying the flipped tree out again puts everything where it is.
+    d.column.RecalcLayout(nullptr);
+    EXPECT_EQ(inverted, Snapshot(d));
+    // Hits in the mirrored tree at the mirrored point.
+    const CRect r3 = before[5 + 3];
+    EXPECT_EQ(d.leaves[3], HitAt(d.column, r3.left, -r3.top - 1));
+
+    d.column.Accept(&invert);
+    EXPECT_EQ(before, Snapshot(d));
 }
 
 } // namespace

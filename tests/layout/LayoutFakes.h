@@ -1,6 +1,6 @@
 #pragma once
-// Test doubles for the layout tests: a leaf of a fixed size that records
-// what happens to it, and a decorator that records its hooks and its death.
+// Test doubles for the layout tests: a leaf of a fixed size and a decorator,
+// both writing what happens to them (draws, hooks, deaths) to a shared log.
 #include "layout/ConcreteElement.h"
 #include "layout/LayoutContainerDecorator.h"
 
@@ -9,58 +9,41 @@
 
 namespace layouttest {
 
-// Shared record of draws and deaths, in order.
 using Log = std::vector<std::string>;
 
-class Leaf : public VU_CConcreteElement {
-public:
-    Leaf(int cx, int cy, std::string name = "", Log* log = nullptr)
-        : m_size(cx, cy), m_name(std::move(name)), m_log(log) {}
-    ~Leaf() override { Note("~" + m_name); }
-
-    CSize RecalcSize() override {
-        return GetVisibility() == VU_LayoutDefs::VISIBLE ? m_size : CSize();
-    }
-    CRect GetObjectRect() const override { return m_rect; }
-    void SetObjectRect(CRect rect) override { m_rect = rect; }
-    void OnDraw(CDC*) override { Note("draw " + m_name); }
-    void RecalcLayout(CDC*) override { ++measured; }
-
-    int visibilityChanges = 0;
-    int measured = 0;
-
-protected:
-    void OnLayoutVisibilityChanged(VU_LayoutDefs::VISIBILITY) override { ++visibilityChanges; }
-
-private:
-    void Note(const std::string& what) const {
-        if (m_log != nullptr)
-            m_log->push_back(what);
-    }
-    CSize m_size;
-    CRect m_rect;
-    std::string m_name;
-    Log* m_log;
-};
-
-class Decorator : public VU_CLayoutContainerDecorator {
-public:
-    Decorator(std::string name, Log* log) : m_name(std::move(name)), m_log(log) {}
-    ~Decorator() override { m_log->push_back("~" + m_name); }
-    void DrawBefore(CDC*, VU_CLayoutElementContainer*) override {
-        m_log->push_back(m_name + " before");
-    }
-    void DrawAfter(CDC*, VU_CLayoutElementContainer*) override {
-        m_log->push_back(m_name + " after");
-    }
-
-private:
-    std::string m_name;
-    Log* m_log;
-};
-
+inline void Note(Log* log, const std::string& what) {
+    if (log != nullptr)
+        log->push_back(what);
+}
 inline Log Expect(std::initializer_list<const char*> items) {
     return Log(items.begin(), items.end());
 }
+
+struct Leaf : VU_CConcreteElement {
+    Leaf(int cx, int cy, std::string name = "", Log* log = nullptr)
+        : size(cx, cy), name(std::move(name)), log(log) {}
+    ~Leaf() override { Note(log, "~" + name); }
+    CSize RecalcSize() override { return GetVisibility() ? size : CSize(); }
+    CRect GetObjectRect() const override { return rect; }
+    void SetObjectRect(CRect r) override { rect = r; }
+    void OnDraw(CDC*) override { Note(log, "draw " + name); }
+    void RecalcLayout(CDC*) override { ++measured; }
+    void OnLayoutVisibilityChanged(VU_LayoutDefs::VISIBILITY) override { ++visibilityChanges; }
+
+    CSize size;
+    CRect rect;
+    std::string name;
+    Log* log;
+    int visibilityChanges = 0, measured = 0;
+};
+
+struct Decorator : VU_CLayoutContainerDecorator {
+    Decorator(std::string name, Log* log) : name(std::move(name)), log(log) {}
+    ~Decorator() override { Note(log, "~" + name); }
+    void DrawBefore(CDC*, VU_CLayoutElementContainer*) override { Note(log, name + " before"); }
+    void DrawAfter(CDC*, VU_CLayoutElementContainer*) override { Note(log, name + " after"); }
+    std::string name;
+    Log* log;
+};
 
 } // namespace layouttest
