@@ -13,7 +13,8 @@ VU_CLayoutCell::VU_CLayoutCell(VU_CLayoutElement* element, UINT alignment,
 VU_CLayoutCell::VU_CLayoutCell(VU_CLayoutElement* element, const VU_CELLLAYOUT& layout,
                                VU_CLayoutContainerDecorator* decorator,
                                VU_LayoutDefs::DELETION_MODE mode)
-    : VU_CLayoutElementContainer(decorator, layout.m_placement, mode), m_element(element) {
+    : VU_CLayoutElementContainer(decorator, layout.m_placement, mode) {
+    SetElement(element);
     TakeLayout(layout);
 }
 
@@ -76,6 +77,8 @@ VU_CLayoutElement* VU_CLayoutCell::GetElement() const {
 }
 
 void VU_CLayoutCell::SetElement(VU_CLayoutElement* element) {
+    if (element == this)
+        return;
     VU_CLayoutElement* previous = m_element.element;
     m_element = Child(element);
     if (previous != element)

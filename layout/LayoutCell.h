@@ -40,6 +40,7 @@ public:
     // Operations of the cell
     virtual VU_CLayoutElement* GetElement() const;
     // Replaces the element; the previous one is deleted by the deletion mode.
+    // The cell itself is refused (ignored).
     virtual void SetElement(VU_CLayoutElement* element);
     virtual void GetCellLayout(VU_CELLLAYOUT& layout) const;
     virtual void SetCellLayout(const VU_CELLLAYOUT& layout);

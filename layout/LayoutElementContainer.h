@@ -32,6 +32,8 @@
 //   earlier one): a child container with Draw, a leaf with OnDraw.
 // - Visibility: SetVisibility always passes the value on to every child,
 //   so showing a container shows every element below it.
+// - The elements form a tree: an element is in one container, once, and a
+//   container never holds itself or one of its ancestors.
 #include "layout/LayoutElement.h"
 
 #include <vector>

@@ -20,7 +20,7 @@
 template <class T> class VU_CMatrix {
 public:
     // The largest table SetAt grows to (rows x columns).
-    static constexpr std::int64_t kMaxCells = std::int64_t(1) << 26;
+    static constexpr std::int64_t kMaxCells = std::int64_t(1) << 22;
 
     VU_CMatrix() = default;
     VU_CMatrix(const VU_CMatrix&) = delete;

@@ -245,6 +245,7 @@ TEST(LayoutVisitors, HitTestFindsTopmostVisibleLeaf) {
 }
 
 TEST(LayoutVisitors, BoundingRectCoversVisibleLeavesAndDecoratedContainers) {
+    Log log; // outlives the decorator
     Diagram d;
     d.layers->SetVisibility(D::HIDDEN);
     VU_CBoundingRectVisitor bounds;
@@ -252,7 +253,6 @@ TEST(LayoutVisitors, BoundingRectCoversVisibleLeavesAndDecoratedContainers) {
     EXPECT_EQ(d.leaves[0]->GetObjectRect() | d.leaves[3]->GetObjectRect(),
               bounds.GetBoundingRect());
 
-    Log log;
     d.column.SetDecorator(new Decorator("frame", &log));
     VU_CBoundingRectVisitor decorated;
     d.column.Accept(&decorated);
