@@ -195,7 +195,11 @@ void LadderDiagram(Context& c) {
     d.root.Accept(&onTimer);
     c.Check(onTimer.GetHit() == d.timer, "a hit on the timer bitmap finds it");
 
-    c.SaveClientPng(frame, L"layout_ladder_diagram");
+    c.SaveClientPng(
+        frame, L"layout_ladder_diagram",
+        L"A ladder diagram laid out by the layout engine: three rungs on a grid whose "
+        L"columns line up, tag names over shared icons and bitmaps, the rails and wires "
+        L"drawn by the grid's decorator, the Test_Mode contact hidden");
     SetWindowLongPtrW(view, GWLP_USERDATA, 0);
     DestroyWindow(view);
     c.DestroyFrame(frame);
