@@ -108,7 +108,7 @@ VU_CLayoutElementContainer::Child::Child(VU_CLayoutElement* pElement)
       leaf(dynamic_cast<VU_CConcreteElement*>(pElement)) {}
 
 CSize VU_CLayoutElementContainer::Child::Measure() {
-    size = element != nullptr ? element->RecalcSize() : CSize();
+    size = element != nullptr ? MeasureElement(element) : CSize();
     return size;
 }
 
@@ -128,6 +128,11 @@ void VU_CLayoutElementContainer::Child::Draw(CDC* pDC) const {
         container->Draw(pDC);
     else if (element != nullptr)
         element->OnDraw(pDC);
+}
+
+CSize VU_CLayoutElementContainer::MeasureElement(VU_CLayoutElement* element) {
+    const CSize size = element->RecalcSize();
+    return CSize(std::max<int>(size.cx, 0), std::max<int>(size.cy, 0));
 }
 
 CRect VU_CLayoutElementContainer::SlotRect(int x, int y, int cx, int cy) const {

@@ -9,7 +9,8 @@
 //   is measured, bottom up) and returns the size the container needs. A
 //   child takes the space of the size it reports: a hidden bitmap or a
 //   hidden container reports (0, 0) and takes none, a hidden icon keeps its
-//   place. A hidden container needs (0, 0). The sizes are kept for the next
+//   place; a negative extent counts as 0. A hidden container needs (0, 0).
+//   The sizes are kept for the next
 //   RepositionChildren, so measure again after changing the content.
 // - Arranging. RepositionChildren gives each child a slot inside the layout
 //   rectangle and arranges the child's own children in turn. A child flexible
@@ -105,6 +106,8 @@ protected:
         void Draw(CDC* pDC) const;
     };
 
+    // The element's size, a negative extent counted as 0.
+    static CSize MeasureElement(VU_CLayoutElement* element);
     // The slot (x, y, cx, cy) measured from the layout rectangle's top-left
     // corner, mirrored when the rectangle is flipped.
     CRect SlotRect(int x, int y, int cx, int cy) const;

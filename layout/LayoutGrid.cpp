@@ -29,7 +29,7 @@ CSize VU_CLayoutGrid::RecalcSize() {
     m_tracks.Measure(size.cx, size.cy, ResizeChild(), [&](int r, int c, CSize& entrySize) {
         VU_CLayoutElementContainer* entry = m_matrix.GetAt(r, c);
         if (entry != nullptr)
-            m_sizes[size_t(r) * size.cy + c] = entrySize = entry->RecalcSize();
+            m_sizes[size_t(r) * size.cy + c] = entrySize = MeasureElement(entry);
         return entry;
     });
     if (GetVisibility() == VU_LayoutDefs::HIDDEN)
