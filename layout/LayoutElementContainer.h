@@ -10,8 +10,8 @@
 //   child takes the space of the size it reports: a hidden bitmap or a
 //   hidden container reports (0, 0) and takes none, a hidden icon keeps its
 //   place; a negative extent counts as 0. A hidden container needs (0, 0).
-//   The sizes are kept for the next
-//   RepositionChildren, so measure again after changing the content.
+//   The sizes are kept for the next RepositionChildren, so measure again
+//   after changing the content.
 // - Arranging. RepositionChildren gives each child a slot inside the layout
 //   rectangle and arranges the child's own children in turn. A child flexible
 //   in a direction takes its slot's whole extent in that direction; one that
