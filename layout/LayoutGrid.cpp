@@ -26,7 +26,7 @@ template <class Fn> void VU_CLayoutGrid::ForEachEntry(Fn fn) const {
 CSize VU_CLayoutGrid::RecalcSize() {
     const CSize size = m_matrix.GetSize();
     m_sizes.assign(size_t(size.cx) * size_t(size.cy), CSize());
-    m_tracks.Measure(size.cx, size.cy, ResizeChild(), [&](int r, int c, CSize& entrySize) {
+    m_measured.Measure(size.cx, size.cy, ResizeChild(), [&](int r, int c, CSize& entrySize) {
         VU_CLayoutElementContainer* entry = m_matrix.GetAt(r, c);
         if (entry != nullptr)
             m_sizes[size_t(r) * size.cy + c] = entrySize = MeasureElement(entry);
@@ -34,14 +34,15 @@ CSize VU_CLayoutGrid::RecalcSize() {
     });
     if (GetVisibility() == VU_LayoutDefs::HIDDEN)
         return CSize();
-    return m_tracks.Required();
+    return m_measured.Required();
 }
 
 void VU_CLayoutGrid::RepositionChildren() {
     const CSize size = m_matrix.GetSize();
     if (m_sizes.size() != size_t(size.cx) * size_t(size.cy) ||
-        m_tracks.widths.size() != size_t(size.cy))
+        m_measured.widths.size() != size_t(size.cy))
         return; // changed since it was measured: RecalcSize first
+    m_tracks = m_measured;
     m_tracks.Arrange(LayoutExtent());
     ForEachEntry([&](VU_CLayoutElementContainer* entry, int r, int c) {
         const CSize own = m_sizes[size_t(r) * size.cy + c];
@@ -106,6 +107,6 @@ CSize VU_CLayoutGrid::GetGridSize() const {
 }
 
 void VU_CLayoutGrid::SetSpacing(int horizontal, int vertical) {
-    m_tracks.spacingX = horizontal > 0 ? horizontal : 0;
-    m_tracks.spacingY = vertical > 0 ? vertical : 0;
+    m_measured.spacingX = horizontal > 0 ? horizontal : 0;
+    m_measured.spacingY = vertical > 0 ? vertical : 0;
 }

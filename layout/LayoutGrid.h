@@ -51,7 +51,7 @@ public:
 
     // Attributes
     void SetSpacing(int horizontal, int vertical);
-    CSize GetSpacing() const { return CSize(m_tracks.spacingX, m_tracks.spacingY); }
+    CSize GetSpacing() const { return CSize(m_measured.spacingX, m_measured.spacingY); }
     // Column offsets and widths, row offsets and heights of the last
     // arrangement, measured from the layout rectangle's corner.
     const vu::layout::Tracks& GetTracks() const { return m_tracks; }
@@ -60,6 +60,7 @@ private:
     template <class Fn> void ForEachEntry(Fn fn) const;
 
     VU_CMatrix<VU_CLayoutElementContainer> m_matrix;
-    std::vector<CSize> m_sizes; // each entry's size at the last measuring, row-major
-    vu::layout::Tracks m_tracks;
+    std::vector<CSize> m_sizes;    // each entry's size at the last measuring, row-major
+    vu::layout::Tracks m_measured; // the tracks as measured
+    vu::layout::Tracks m_tracks;   // the tracks as last arranged
 };

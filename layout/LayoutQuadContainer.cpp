@@ -16,19 +16,20 @@ void VU_CLayoutQuadContainer::Accept(DwIVisitor* visitor) {
 }
 
 CSize VU_CLayoutQuadContainer::RecalcSize() {
-    m_tracks.Measure(2, 2, ResizeChild(), [&](int r, int c, CSize& size) {
+    m_measured.Measure(2, 2, ResizeChild(), [&](int r, int c, CSize& size) {
         Child& child = m_quadrants[r * 2 + c];
         size = child.Measure();
         return child.element;
     });
     if (GetVisibility() == VU_LayoutDefs::HIDDEN)
         return CSize();
-    return m_tracks.Required();
+    return m_measured.Required();
 }
 
 void VU_CLayoutQuadContainer::RepositionChildren() {
-    if (m_tracks.widths.size() != 2)
+    if (m_measured.widths.size() != 2)
         return; // never measured
+    m_tracks = m_measured;
     m_tracks.Arrange(LayoutExtent());
     for (int q = 0; q < 4; ++q) {
         const Child& child = m_quadrants[q];

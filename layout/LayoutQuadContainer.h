@@ -40,5 +40,6 @@ private:
     static bool IsQuadrant(int quadrant) { return quadrant >= 0 && quadrant < 4; }
 
     Child m_quadrants[4];
-    vu::layout::Tracks m_tracks;
+    vu::layout::Tracks m_measured; // the tracks as measured
+    vu::layout::Tracks m_tracks;   // the tracks as last arranged
 };

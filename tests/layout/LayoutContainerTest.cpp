@@ -213,6 +213,9 @@ TEST(LayoutGrid, ColumnsAndRowsLineUp) {
     EXPECT_EQ(CRect(10 + 15 + 2, 20, 38, 30), RectOf(grid.GetAt(0, 1)));
     EXPECT_EQ(CRect(27, 31, 57, 45), RectOf(spanning)) << "own width from the column's left";
     EXPECT_EQ(CRect(40, 31, 49, 45), RectOf(grid.GetAt(1, 2)));
+    grid.SetLayoutRect(CRect(10, 20, 20, 30)); // smaller: back to the measured tracks
+    grid.RepositionChildren();
+    EXPECT_EQ((std::vector<int>{12, 8, 6}), grid.GetTracks().widths);
 }
 
 TEST(LayoutQuadContainer, QuadrantsAsTwoByTwo) {
