@@ -31,7 +31,8 @@ target_link_options(vulib PRIVATE -static -Wl,--export-all-symbols -Wl,--exclude
 # windres does not report what the script includes: rebuild the resources
 # when a header or a generated image changes.
 file(GLOB_RECURSE VULIB_RC_INPUTS CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/*.h
-     ${CMAKE_SOURCE_DIR}/resources/*.bmp ${CMAKE_SOURCE_DIR}/resources/*.cur)
+     ${CMAKE_SOURCE_DIR}/resources/*.bmp ${CMAKE_SOURCE_DIR}/resources/*.cur
+     ${CMAKE_SOURCE_DIR}/resources/*.ico)
 set_source_files_properties(${VULIB_RC} PROPERTIES OBJECT_DEPENDS "${VULIB_RC_INPUTS}")
 
 # Test and demo executables carry their runtime with them so Wine finds no

@@ -23,3 +23,11 @@
 #define IDB_VU_CHECK_IMAGES 3336
 // Tab beam bar: the splitter's resize cursor (scripts/gen_tab_cursors.py)
 #define IDC_VU_TAB_SPLITTER 30980
+
+// Layout engine: ladder-diagram icons and bitmaps (scripts/gen_layout_images.py)
+#define IDI_VU_LAYOUT_CONTACT 4601
+#define IDI_VU_LAYOUT_COIL 4602
+#define IDI_VU_LAYOUT_LAMP 4603
+#define IDB_VU_LAYOUT_TIMER 4612
+#define IDB_VU_LAYOUT_PROBE 4613     // 8x4 test pattern: red | blue, bottom row magenta
+#define IDB_VU_LAYOUT_PROBE_ALT 4614 // 5x3 green test pattern
