@@ -143,7 +143,7 @@ int AF_CConditionActionLayout::GetMinDialogHeight(const CArray<CStaticTextItem>&
         bottom = m_rcPrompt.bottom;
     else if (!m_warningPositions.empty())
         bottom = std::max<int>(m_warningPositions.back().m_rcText.bottom,
-                          m_warningPositions.back().m_rcIcon.bottom);
+                               m_warningPositions.back().m_rcIcon.bottom);
     else if (!labels.IsEmpty())
         bottom = labels[labels.GetUpperBound()].m_nTop;
     else

@@ -5,7 +5,7 @@ namespace {
 // The text with "..." and `kept` characters of the original, at its start
 // or (keepEnd) at its end.
 CString Cut(const CString& text, int kept, bool keepEnd) {
-    const CString dots(u'.', 3);
+    const CString dots(VU_T('.'), 3);
     return keepEnd ? dots + text.Right(kept) : text.Left(kept) + dots;
 }
 
