@@ -16,12 +16,12 @@ struct Dialog {
         in.rcCondition = CRect(68, 10, 381, 33);
         in.windowSize = CSize(399, 178);
         in.clientSize = CSize(393, 154);
-        in.labelText = u"Condition:"; // 54 pixels: 6 more than its control
-        in.conditionText = u"Motor M1 is running";
-        in.captions.Add(CString(u"Yes"));
-        in.captions.Add(CString(u"No"));
+        in.labelText = VU_T("Condition:"); // 54 pixels: 6 more than its control
+        in.conditionText = VU_T("Motor M1 is running");
+        in.captions.Add(CString(VU_T("Yes")));
+        in.captions.Add(CString(VU_T("No")));
     }
-    void Label(const char16_t* text, bool group) { labels.Add(CStaticTextItem(text, group)); }
+    void Label(const WCHAR* text, bool group) { labels.Add(CStaticTextItem(text, group)); }
     void Warning(const CString& text, bool box) {
         CWarningItem w;
         w.m_strText = text;
@@ -55,12 +55,12 @@ TEST(ConditionActionLayout, LabelTopsStepWithAnExtraGapBeforeEachGroup) {
         SCOPED_TRACE(visible ? "condition shown" : "condition empty: as if it were there");
         Dialog d;
         if (!visible)
-            d.in.conditionText = u"";
-        d.Label(u"Tag", true);
-        d.Label(u"Name:", false);
-        d.Label(u"Type:", false);
-        d.Label(u"Where", true);
-        d.Label(u"Routine:", false);
+            d.in.conditionText = VU_T("");
+        d.Label(VU_T("Tag"), true);
+        d.Label(VU_T("Name:"), false);
+        d.Label(VU_T("Type:"), false);
+        d.Label(VU_T("Where"), true);
+        d.Label(VU_T("Routine:"), false);
         const AF_CConditionActionLayout& l = d.Run();
         EXPECT_EQ(visible, l.m_bConditionVisible);
         const int tops[] = {45, 62, 79, 100, 117};
@@ -74,12 +74,12 @@ TEST(ConditionActionLayout, LabelTopsStepWithAnExtraGapBeforeEachGroup) {
 
 TEST(ConditionActionLayout, ValuesStandRightOfTheWidestItemLabel) {
     Dialog d;
-    d.Label(u"Tag", true);
-    d.Label(u"Name:", false);
-    d.Label(u"Routine:", false); // 45 pixels
-    d.values.Add(CTruncStaticTextItem(u"Motor_M1", false));
-    d.values.Add(CTruncStaticTextItem(u"MainRoutine", false));
-    d.values.Add(CTruncStaticTextItem(u"no label left", false));
+    d.Label(VU_T("Tag"), true);
+    d.Label(VU_T("Name:"), false);
+    d.Label(VU_T("Routine:"), false); // 45 pixels
+    d.values.Add(CTruncStaticTextItem(VU_T("Motor_M1"), false));
+    d.values.Add(CTruncStaticTextItem(VU_T("MainRoutine"), false));
+    d.values.Add(CTruncStaticTextItem(VU_T("no label left"), false));
     const AF_CConditionActionLayout& l = d.Run();
     ASSERT_EQ(2u, l.m_valueRects.size()) << "a value without an item label is not placed";
     EXPECT_EQ(CRect(126, 62, 381, 75), l.m_valueRects[0]);
@@ -87,8 +87,8 @@ TEST(ConditionActionLayout, ValuesStandRightOfTheWidestItemLabel) {
 
     // An item label that leaves less than a minimum button widens the dialog.
     Dialog wide;
-    wide.Label(CString(u'W', 28), false); // 280 pixels
-    wide.values.Add(CTruncStaticTextItem(u"1", false));
+    wide.Label(CString(VU_T('W'), 28), false); // 280 pixels
+    wide.values.Add(CTruncStaticTextItem(VU_T("1"), false));
     const AF_CConditionActionLayout& w = wide.Run();
     ASSERT_EQ(1u, w.m_valueRects.size());
     EXPECT_EQ(74 + 280 + 7, w.m_valueRects[0].left);
@@ -99,13 +99,14 @@ TEST(ConditionActionLayout, ValuesStandRightOfTheWidestItemLabel) {
 
 TEST(ConditionActionLayout, WarningsStackBelowTheLabelsAndWrap) {
     Dialog d;
-    d.Label(u"Tag", true);
-    d.Warning(u"Outputs change state.", false);
-    d.Warning(CString(u"abcde ") + CString(u"abcde ") + CString(u"abcde ") + CString(u"abcde ") +
-                  CString(u"abcde ") + CString(u"abcde ") + CString(u"abcde ") +
-                  CString(u"abcde ") + CString(u"abcde ") + u"end",
+    d.Label(VU_T("Tag"), true);
+    d.Warning(VU_T("Outputs change state."), false);
+    d.Warning(CString(VU_T("abcde ")) + CString(VU_T("abcde ")) + CString(VU_T("abcde ")) +
+                  CString(VU_T("abcde ")) + CString(VU_T("abcde ")) + CString(VU_T("abcde ")) +
+                  CString(VU_T("abcde ")) + CString(VU_T("abcde ")) + CString(VU_T("abcde ")) +
+                  VU_T("end"),
               true);
-    d.Warning(u"Last", false);
+    d.Warning(VU_T("Last"), false);
     const AF_CConditionActionLayout& l = d.Run();
     ASSERT_EQ(3u, l.m_warningPositions.size());
     const CWarningPosition& first = l.m_warningPositions[0];
@@ -138,13 +139,13 @@ TEST(ConditionActionLayout, PromptAndHeightFollowTheLowestPart) {
         SCOPED_TRACE(r.name);
         Dialog d;
         if (!r.condition)
-            d.in.conditionText = u"";
+            d.in.conditionText = VU_T("");
         if (r.label)
-            d.Label(u"Tag", true);
+            d.Label(VU_T("Tag"), true);
         if (r.warning)
-            d.Warning(u"Careful", false);
+            d.Warning(VU_T("Careful"), false);
         if (r.prompt)
-            d.in.promptText = u"Continue?";
+            d.in.promptText = VU_T("Continue?");
         const AF_CConditionActionLayout& l = d.Run();
         EXPECT_EQ(r.promptTop, r.prompt ? l.m_rcPrompt.top : -1);
         if (r.prompt) {

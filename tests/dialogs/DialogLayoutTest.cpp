@@ -8,9 +8,9 @@
 
 namespace {
 
-CStringArray Captions(std::initializer_list<const char16_t*> texts) {
+CStringArray Captions(std::initializer_list<const WCHAR*> texts) {
     CStringArray a;
-    for (const char16_t* t : texts)
+    for (const WCHAR* t : texts)
         a.Add(CString(t));
     return a;
 }
@@ -41,14 +41,14 @@ TEST(DialogLayout, ButtonIsCaptionPlusSixteenOrTheMinimum) {
     // Minimum 43: captions up to 27 pixels get 43, wider ones their width + 16.
     struct Row {
         const char* name;
-        const char16_t* caption;
+        const WCHAR* caption;
         unsigned expected;
     } rows[] = {
-        {"empty", u"", 43},
-        {"narrow", u"OK", 43},
-        {"27: at the limit", u"iiiiiiiii", 43},
-        {"28: one past", u"Waaii", 44},
-        {"wide", u"Yes To All", 76},
+        {"empty", VU_T(""), 43},
+        {"narrow", VU_T("OK"), 43},
+        {"27: at the limit", VU_T("iiiiiiiii"), 43},
+        {"28: one past", VU_T("Waaii"), 44},
+        {"wide", VU_T("Yes To All"), 76},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -65,7 +65,8 @@ TEST(DialogLayout, RowIsCentredAtTheBottomWithGapsAndMargins) {
     AF_CDialogLayout layout;
     layout.CalcConstants(6, 13);
     FakeMeasuring m;
-    layout.CalcButtonWidths(Captions({u"OK", u"Yes To All", u"Cancel"}), m); // 43, 76, 52
+    layout.CalcButtonWidths(Captions({VU_T("OK"), VU_T("Yes To All"), VU_T("Cancel")}),
+                            m); // 43, 76, 52
     EXPECT_EQ(43 + 76 + 52 + 2 * 7 + 2 * 10, layout.CalcMinClientWidthForButtons());
     EXPECT_EQ(205 + 6, layout.CalcMinDlgWidthForButtons(m));
 
@@ -83,7 +84,7 @@ TEST(DialogLayout, RowIsCentredAtTheBottomWithGapsAndMargins) {
 
 TEST(DialogLayout, PromptGrowsOnOneLineUntilTheLimitThenWraps) {
     const CRect control(0, 0, 150, 21); // 100 x 14 units at 6 x 13
-    const CString word(u"abcde ");      // 36 pixels
+    const CString word(VU_T("abcde ")); // 36 pixels
     CString longPrompt;                 // 720 pixels
     for (int i = 0; i < 20; ++i)
         longPrompt += word;
@@ -93,14 +94,14 @@ TEST(DialogLayout, PromptGrowsOnOneLineUntilTheLimitThenWraps) {
         int workArea;
         CSize expected;
     } rows[] = {
-        {"short: no growth", u"Save?", 1000, {0, 0}},
-        {"wider than the control, under the limit", CString(u'a', 30), 1000, {30, 0}},
-        {"two lines by a line break", u"one\ntwo", 1000, {0, 5}},
+        {"short: no growth", VU_T("Save?"), 1000, {0, 0}},
+        {"wider than the control, under the limit", CString(VU_T('a'), 30), 1000, {30, 0}},
+        {"two lines by a line break", VU_T("one\ntwo"), 1000, {0, 5}},
         // Words of 36 pixels with their space: 15 to a line of 550 (534 wide).
         {"wraps at 55 % of 1000", longPrompt, 1000, {534 - 150, 2 * 13 - 21}},
         {"55 % of 970 truncates to 533: 14 words", longPrompt, 970, {498 - 150, 2 * 13 - 21}},
         {"narrow work area: 6 words a line", longPrompt, 400, {210 - 150, 4 * 13 - 21}},
-        {"empty", u"", 1000, {0, 0}},
+        {"empty", VU_T(""), 1000, {0, 0}},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -114,10 +115,11 @@ TEST(DialogLayout, DialogKeepsItsSizeUnlessThePromptOrTheButtonsNeedMore) {
     AF_CDialogLayout layout;
     layout.CalcConstants(6, 13);
     FakeMeasuring m;
-    layout.CalcButtonWidths(Captions({u"OK"}), m);
+    layout.CalcButtonWidths(Captions({VU_T("OK")}), m);
     EXPECT_EQ(CSize(231, 101), layout.CalcDialogSize(CSize(231, 101), CSize(0, 0), m));
     EXPECT_EQ(CSize(261, 114), layout.CalcDialogSize(CSize(231, 101), CSize(30, 13), m));
-    layout.CalcButtonWidths(Captions({u"Yes To All", u"Yes To All", u"Yes To All"}), m);
+    layout.CalcButtonWidths(Captions({VU_T("Yes To All"), VU_T("Yes To All"), VU_T("Yes To All")}),
+                            m);
     EXPECT_EQ(CSize(3 * 76 + 2 * 7 + 20 + 6, 101),
               layout.CalcDialogSize(CSize(231, 101), CSize(0, 0), m));
 }

@@ -10,7 +10,7 @@
 class FakeMeasuring : public AF_ADialogMeasuring {
 public:
     static constexpr int kLine = 13;
-    static int CharWidth(char16_t c) { return c == u'W' ? 10 : c == u'i' ? 3 : 6; }
+    static int CharWidth(WCHAR c) { return c == VU_T('W') ? 10 : c == VU_T('i') ? 3 : 6; }
     static int Width(const CString& s, int from = 0, int to = -1) {
         int w = 0;
         for (int i = from; i < (to < 0 ? s.GetLength() : to); ++i)
@@ -23,16 +23,16 @@ public:
         int lines = 0, widest = 0, lineStart = 0, lastSpace = -1;
         const int n = text.GetLength();
         for (int i = 0; i <= n; ++i) {
-            const char16_t c = i < n ? text[i] : u'\n';
-            if (wordBreak && c != u' ' && c != u'\n' && lastSpace > lineStart &&
+            const WCHAR c = i < n ? text[i] : VU_T('\n');
+            if (wordBreak && c != VU_T(' ') && c != VU_T('\n') && lastSpace > lineStart &&
                 Width(text, lineStart, i + 1) > rect.Width()) {
                 widest = std::max(widest, Width(text, lineStart, lastSpace));
                 ++lines;
                 lineStart = lastSpace + 1;
             }
-            if (c == u' ')
+            if (c == VU_T(' '))
                 lastSpace = i;
-            if (c == u'\n') {
+            if (c == VU_T('\n')) {
                 widest = std::max(widest, Width(text, lineStart, i));
                 ++lines;
                 lineStart = i + 1;

@@ -9,21 +9,21 @@
 namespace {
 
 TEST(TextTruncation, CutsTheEndOrTheStartToFit) {
-    const CString path(u"Line3_Packer.Motors.M1"); // 129 pixels
+    const CString path(VU_T("Line3_Packer.Motors.M1")); // 129 pixels
     struct Row {
         const char* name;
         CString text;
         int width;
         bool keepEnd;
-        const char16_t* expected;
+        const WCHAR* expected;
     } rows[] = {
-        {"fits exactly", path, 129, false, u"Line3_Packer.Motors.M1"},
-        {"one pixel short", path, 128, false, u"Line3_Packer.Motor..."},
-        {"start kept", path, 60, false, u"Line3_P..."},
-        {"end kept", path, 60, true, u"...tors.M1"},
-        {"room for the dots only", path, 20, true, u"..."},
-        {"no room for the dots", path, 17, false, u""},
-        {"empty text", u"", 0, false, u""},
+        {"fits exactly", path, 129, false, VU_T("Line3_Packer.Motors.M1")},
+        {"one pixel short", path, 128, false, VU_T("Line3_Packer.Motor...")},
+        {"start kept", path, 60, false, VU_T("Line3_P...")},
+        {"end kept", path, 60, true, VU_T("...tors.M1")},
+        {"room for the dots only", path, 20, true, VU_T("...")},
+        {"no room for the dots", path, 17, false, VU_T("")},
+        {"empty text", VU_T(""), 0, false, VU_T("")},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
