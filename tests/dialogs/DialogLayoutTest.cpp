@@ -1,6 +1,8 @@
-// The message box's arithmetic with a fixed fake font: constants, button
-// widths, the centred row and the prompt's growth.
+// The message box's and save-options box's arithmetic and the truncation of
+// values, with the fixed fake font at base units 6 x 13.
 #include "dialogs/DialogLayout.h"
+#include "dialogs/SaveOptionsLayout.h"
+#include "dialogs/TextTruncation.h"
 
 #include "FakeMeasuring.h"
 
@@ -8,100 +10,53 @@
 
 namespace {
 
-CStringArray Captions(std::initializer_list<const WCHAR*> texts) {
-    CStringArray a;
-    for (const WCHAR* t : texts)
-        a.Add(CString(t));
-    return a;
-}
-
-TEST(DialogLayout, ConstantsUseIntegerDivisionOfEachAxis) {
-    struct Row {
-        const char* name;
-        int baseX, baseY, minWidth, height, gap, marginX, marginY;
-    } rows[] = {
-        {"MS Sans Serif 8 at 96 dpi", 6, 13, 43, 22, 7, 10, 11},
-        {"120 dpi", 8, 16, 58, 28, 10, 14, 14},
-        {"axes swapped catch a mixed-up axis", 13, 6, 94, 10, 16, 22, 5},
-        {"zero base units", 0, 0, 0, 0, 0, 0, 0},
-    };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.name);
-        AF_CDialogLayout layout;
-        layout.CalcConstants(r.baseX, r.baseY);
-        EXPECT_EQ(r.minWidth, layout.m_nMinButtonWidth);
-        EXPECT_EQ(r.height, layout.m_nButtonHeight);
-        EXPECT_EQ(r.gap, layout.m_nButtonGap);
-        EXPECT_EQ(r.marginX, layout.m_nMarginX);
-        EXPECT_EQ(r.marginY, layout.m_nMarginY);
-    }
-}
-
-TEST(DialogLayout, ButtonIsCaptionPlusSixteenOrTheMinimum) {
-    // Minimum 43: captions up to 27 pixels get 43, wider ones their width + 16.
-    struct Row {
-        const char* name;
-        const WCHAR* caption;
-        unsigned expected;
-    } rows[] = {
-        {"empty", VU_T(""), 43},
-        {"narrow", VU_T("OK"), 43},
-        {"27: at the limit", VU_T("iiiiiiiii"), 43},
-        {"28: one past", VU_T("Waaii"), 44},
-        {"wide", VU_T("Yes To All"), 76},
-    };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.name);
-        AF_CDialogLayout layout;
-        layout.CalcConstants(6, 13);
-        FakeMeasuring m;
-        layout.CalcButtonWidths(Captions({r.caption}), m);
-        ASSERT_EQ(1, layout.m_buttonWidths.GetSize());
-        EXPECT_EQ(r.expected, layout.m_buttonWidths[0]);
-    }
-}
-
-TEST(DialogLayout, RowIsCentredAtTheBottomWithGapsAndMargins) {
+AF_CDialogLayout Layout(std::initializer_list<const WCHAR*> captions) {
     AF_CDialogLayout layout;
     layout.CalcConstants(6, 13);
+    CStringArray a;
+    for (const WCHAR* c : captions)
+        a.Add(CString(c));
     FakeMeasuring m;
-    layout.CalcButtonWidths(Captions({VU_T("OK"), VU_T("Yes To All"), VU_T("Cancel")}),
-                            m); // 43, 76, 52
-    EXPECT_EQ(43 + 76 + 52 + 2 * 7 + 2 * 10, layout.CalcMinClientWidthForButtons());
-    EXPECT_EQ(205 + 6, layout.CalcMinDlgWidthForButtons(m));
-
-    const std::vector<CRect> rects = layout.CalcButtonRects(CSize(300, 120));
-    ASSERT_EQ(3u, rects.size());
-    EXPECT_EQ(CRect(57, 87, 100, 109), rects[0]); // (300 - 205) / 2 + 10
-    EXPECT_EQ(rects[0].right + 7, rects[1].left);
-    EXPECT_EQ(rects[1].right + 7, rects[2].left);
-    EXPECT_EQ(300 - rects[2].right, rects[0].left + 1) << "the odd pixel goes right";
-
-    layout.CalcButtonWidths(CStringArray(), m);
-    EXPECT_EQ(20, layout.CalcMinClientWidthForButtons()) << "no buttons: the margins only";
-    EXPECT_TRUE(layout.CalcButtonRects(CSize(300, 120)).empty());
+    layout.CalcButtonWidths(a, m);
+    return layout;
 }
 
-TEST(DialogLayout, PromptGrowsOnOneLineUntilTheLimitThenWraps) {
-    const CRect control(0, 0, 150, 21); // 100 x 14 units at 6 x 13
-    const CString word(VU_T("abcde ")); // 36 pixels
-    CString longPrompt;                 // 720 pixels
+TEST(DialogLayout, ButtonsAreCaptionPlusSixteenOrTheMinimumInACentredRow) {
+    // At 6 x 13: minimum 43, gap 7, margins 10 and 11, height 22 (each axis its
+    // own base unit). Captions up to 27 pixels get 43: "iiiiiiiii" is 27, "Waaii" 28.
+    const AF_CDialogLayout l =
+        Layout({VU_T(""), VU_T("iiiiiiiii"), VU_T("Waaii"), VU_T("Yes To All")});
+    EXPECT_EQ((std::vector<UINT>{43, 43, 44, 76}),
+              (std::vector<UINT>(l.m_buttonWidths.GetData(), l.m_buttonWidths.GetData() + 4)));
+    const int minClient = 43 + 43 + 44 + 76 + 3 * 7 + 2 * 10;
+    EXPECT_EQ(minClient, l.CalcMinClientWidthForButtons());
+    FakeMeasuring m;
+    EXPECT_EQ(minClient + 6, l.CalcMinDlgWidthForButtons(m));
+    const std::vector<CRect> rects = l.CalcButtonRects(CSize(300, 120));
+    ASSERT_EQ(4u, rects.size());
+    EXPECT_EQ(CRect(36, 87, 79, 109), rects[0]); // (300 - 247) / 2 + 10, bottom 120 - 11
+    EXPECT_EQ(rects[2].right + 7, rects[3].left);
+    EXPECT_EQ(300 - rects[3].right, rects[0].left + 1) << "the odd pixel goes right";
+    EXPECT_EQ(20, Layout({}).CalcMinClientWidthForButtons()) << "no buttons: the margins";
+}
+
+TEST(DialogLayout, PromptGrowsOnOneLineUpToFiftyFivePercentThenWraps) {
+    const CRect control(0, 0, 150, 21);
+    CString words; // 20 words of 36 pixels with their space: 720 pixels
     for (int i = 0; i < 20; ++i)
-        longPrompt += word;
+        words += VU_T("abcde ");
     struct Row {
         const char* name;
         CString text;
         int workArea;
         CSize expected;
     } rows[] = {
-        {"short: no growth", VU_T("Save?"), 1000, {0, 0}},
-        {"wider than the control, under the limit", CString(VU_T('a'), 30), 1000, {30, 0}},
-        {"two lines by a line break", VU_T("one\ntwo"), 1000, {0, 5}},
-        // Words of 36 pixels with their space: 15 to a line of 550 (534 wide).
-        {"wraps at 55 % of 1000", longPrompt, 1000, {534 - 150, 2 * 13 - 21}},
-        {"55 % of 970 truncates to 533: 14 words", longPrompt, 970, {498 - 150, 2 * 13 - 21}},
-        {"narrow work area: 6 words a line", longPrompt, 400, {210 - 150, 4 * 13 - 21}},
-        {"empty", VU_T(""), 1000, {0, 0}},
+        {"short", VU_T("Save?"), 1000, {0, 0}},
+        {"wider than the control, within the limit", CString(VU_T('a'), 30), 1000, {30, 0}},
+        {"a line break", VU_T("one\ntwo"), 1000, {0, 5}},
+        {"wraps at 550: 15 words a line", words, 1000, {534 - 150, 5}},
+        {"55 % of 970 truncates to 533: 14 words", words, 970, {498 - 150, 5}},
+        {"wraps at 220: 6 words a line", words, 400, {210 - 150, 4 * 13 - 21}},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -109,19 +64,48 @@ TEST(DialogLayout, PromptGrowsOnOneLineUntilTheLimitThenWraps) {
         m.workArea = r.workArea;
         EXPECT_EQ(r.expected, AF_CDialogLayout::CalcTextControlDxDy(r.text, control, m));
     }
+    FakeMeasuring m; // the dialog keeps its size unless the prompt or the buttons need more
+    EXPECT_EQ(CSize(231, 101), Layout({VU_T("OK")}).CalcDialogSize({231, 101}, {0, 0}, m));
+    EXPECT_EQ(CSize(261, 114), Layout({VU_T("OK")}).CalcDialogSize({231, 101}, {30, 13}, m));
+    EXPECT_EQ(CSize(268, 101), Layout({VU_T("Yes To All"), VU_T("Yes To All"), VU_T("Yes To All")})
+                                   .CalcDialogSize({231, 101}, {0, 0}, m));
 }
 
-TEST(DialogLayout, DialogKeepsItsSizeUnlessThePromptOrTheButtonsNeedMore) {
-    AF_CDialogLayout layout;
-    layout.CalcConstants(6, 13);
-    FakeMeasuring m;
-    layout.CalcButtonWidths(Captions({VU_T("OK")}), m);
-    EXPECT_EQ(CSize(231, 101), layout.CalcDialogSize(CSize(231, 101), CSize(0, 0), m));
-    EXPECT_EQ(CSize(261, 114), layout.CalcDialogSize(CSize(231, 101), CSize(30, 13), m));
-    layout.CalcButtonWidths(Captions({VU_T("Yes To All"), VU_T("Yes To All"), VU_T("Yes To All")}),
-                            m);
-    EXPECT_EQ(CSize(3 * 76 + 2 * 7 + 20 + 6, 101),
-              layout.CalcDialogSize(CSize(231, 101), CSize(0, 0), m));
+TEST(SaveOptionsLayout, GrowsAroundThePromptWithTheButtonsCentredUnderIt) {
+    const CRect control(50, 15, 350, 45); // centred over the buttons at x 200
+    EXPECT_EQ(CSize(0, 0), Vu_CSaveOptionsLayout::CalcGrowth(control, {50, 15, 300, 41}, 5));
+    // A path 21 pixels too wide on three lines: the excess and two average
+    // characters wider, 9 pixels taller.
+    const CSize growth = Vu_CSaveOptionsLayout::CalcGrowth(control, {50, 15, 371, 54}, 5);
+    EXPECT_EQ(CSize(31, 9), growth);
+    CRect dialog(100, 100, 500, 220), prompt = control;
+    std::vector<CRect> buttons{CRect(40, 80, 115, 102), CRect(285, 80, 360, 102)};
+    Vu_CSaveOptionsLayout::Apply(growth, dialog, prompt, buttons);
+    EXPECT_EQ(CRect(85, 96, 516, 225), dialog) << "half each side";
+    EXPECT_EQ(CRect(50, 15, 381, 54), prompt);
+    EXPECT_EQ(CRect(55, 89, 130, 111), buttons[0]);
+    EXPECT_EQ(prompt.CenterPoint().x, (buttons[0].left + buttons[1].right) / 2);
+}
+
+TEST(TextTruncation, CutsTheEndOrTheStartToFit) {
+    const CString path(VU_T("Line3_Packer.Motors.M1")); // 129 pixels
+    struct Row {
+        const char* name;
+        int width;
+        bool keepEnd;
+        const WCHAR* expected;
+    } rows[] = {
+        {"fits exactly", 129, false, VU_T("Line3_Packer.Motors.M1")},
+        {"one pixel short", 128, false, VU_T("Line3_Packer.Motor...")},
+        {"end kept", 60, true, VU_T("...tors.M1")},
+        {"room for the dots only", 20, true, VU_T("...")},
+        {"no room for the dots", 17, false, VU_T("")},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.name);
+        FakeMeasuring m;
+        EXPECT_EQ(CString(r.expected), VuTruncateText(path, r.width, r.keepEnd, m));
+    }
 }
 
 } // namespace

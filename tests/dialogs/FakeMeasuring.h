@@ -1,45 +1,39 @@
 #pragma once
-// A measuring fake with a fixed font: every character 6 pixels wide except
-// 'W' (10) and 'i' (3), lines 13 pixels high; wrapping breaks at spaces
-// and at line breaks, and a word longer than the width sticks out, as
-// DrawText does.
+// A measuring fake with a fixed font: characters 6 pixels wide, 'W' 10 and
+// 'i' 3, lines 13 high; wrapping breaks at spaces and line breaks, and a
+// word longer than the width sticks out, as DrawText does.
 #include "dialogs/DialogMeasuring.h"
 
 #include <algorithm>
 
 class FakeMeasuring : public AF_ADialogMeasuring {
 public:
-    static constexpr int kLine = 13;
-    static int CharWidth(WCHAR c) { return c == VU_T('W') ? 10 : c == VU_T('i') ? 3 : 6; }
     static int Width(const CString& s, int from = 0, int to = -1) {
         int w = 0;
         for (int i = from; i < (to < 0 ? s.GetLength() : to); ++i)
-            w += CharWidth(s[i]);
+            w += s[i] == VU_T('W') ? 10 : s[i] == VU_T('i') ? 3 : 6;
         return w;
     }
-
-    CSize GetTextExtent(const CString& text) override { return CSize(Width(text), kLine); }
+    CSize GetTextExtent(const CString& text) override { return CSize(Width(text), 13); }
     CRect CalcTextRect(const CString& text, const CRect& rect, bool wordBreak) override {
-        int lines = 0, widest = 0, lineStart = 0, lastSpace = -1;
+        int lines = 0, widest = 0, start = 0, space = -1;
         const int n = text.GetLength();
         for (int i = 0; i <= n; ++i) {
             const WCHAR c = i < n ? text[i] : VU_T('\n');
-            if (wordBreak && c != VU_T(' ') && c != VU_T('\n') && lastSpace > lineStart &&
-                Width(text, lineStart, i + 1) > rect.Width()) {
-                widest = std::max(widest, Width(text, lineStart, lastSpace));
+            if (wordBreak && c != VU_T(' ') && c != VU_T('\n') && space > start &&
+                Width(text, start, i + 1) > rect.Width()) {
+                widest = std::max(widest, Width(text, start, space));
                 ++lines;
-                lineStart = lastSpace + 1;
+                start = space + 1;
             }
-            if (c == VU_T(' '))
-                lastSpace = i;
+            space = c == VU_T(' ') ? i : space;
             if (c == VU_T('\n')) {
-                widest = std::max(widest, Width(text, lineStart, i));
+                widest = std::max(widest, Width(text, start, i));
                 ++lines;
-                lineStart = i + 1;
+                start = i + 1;
             }
         }
-        return CRect(rect.left, rect.top, rect.left + widest,
-                     rect.top + (n == 0 ? 0 : lines) * kLine);
+        return CRect(rect.left, rect.top, rect.left + widest, rect.top + (n ? lines : 0) * 13);
     }
     int GetWorkAreaWidth() override { return workArea; }
     int GetDialogFrameWidth() override { return 3; }

@@ -1,18 +1,17 @@
 // The condition-action dialog: check boxes, help and buttons by real input;
-// its set-up results; and its controls where the layout puts them.
+// its set-up results; its controls where the layout puts them.
 #include "DialogTestStrings.h"
-#include "DialogTestSupport.h"
+#include "RealInput.h"
 
 #include "dialogs/win/ConditionActionDlg.h"
-#include "resources/resource.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-// A dialog with a condition, one group of two values, two warnings with
-// check boxes (the second checked), a prompt and Yes/No.
-template <class Dlg> void Fill(Dlg& dlg, const wchar_t* title) {
+// A condition, one group of two values, two warnings with check boxes (the
+// second checked), a prompt, and Yes and No.
+void Fill(AF_CConditionActionDlg& dlg, const wchar_t* title) {
     dlg.SetTitle(title);
     dlg.SetConditionText(L"Motor_M1 is running in Remote Run mode.");
     dlg.AddGroupLabelAndItemLabels(IDS_T_GROUP, IDS_T_NAME, IDS_T_TYPE, 0);
@@ -26,157 +25,103 @@ template <class Dlg> void Fill(Dlg& dlg, const wchar_t* title) {
     dlg.SetHelpContext(77);
 }
 
-struct CheckLog {
-    AF_CConditionActionDlg* dlg = nullptr;
-    std::vector<unsigned> ids;
-    std::vector<bool> seen; // the stored state when the callback runs
-    static int Callback(unsigned id, void* user) {
-        auto* log = static_cast<CheckLog*>(user);
-        log->ids.push_back(id);
-        log->seen.push_back(log->dlg->IsWarningCheckboxChecked(id));
-        return 1;
-    }
-};
+AF_CConditionActionDlg* g_dlg = nullptr;
+std::vector<std::pair<unsigned, bool>> g_checks; // id and the state stored when called
+int OnCheck(unsigned id, void*) {
+    g_checks.emplace_back(id, g_dlg->IsWarningCheckboxChecked(id));
+    return 1;
+}
 
-TEST(ConditionActionInput, CheckBoxesHelpAndARefusedButton) {
+TEST(ConditionActionInput, CheckBoxesHelpAndRefusedEsc) {
     vutest::HelpRecorder help;
-    vutest::CallbackLog presses;
-    presses.refuse = {6, 9};
+    vutest::CallbackLog presses{{}, 9}; // help goes on to the host
     AF_CConditionActionDlg dlg;
     Fill(dlg, L"Real input condition");
-    CheckLog checks;
-    checks.dlg = &dlg;
+    g_dlg = &dlg;
     dlg.SetButtonPressCallback(&vutest::CallbackLog::Callback, &presses);
-    dlg.SetCheckboxClickCallback(&CheckLog::Callback, &checks);
+    dlg.SetCheckboxClickCallback(&OnCheck, nullptr);
     INT_PTR result = 0;
     {
-        vutest::InputScript script(L"Real input condition", [](HWND h) {
-            return vutest::ClickOn(GetDlgItem(h, 2501)) + vutest::ClickOn(GetDlgItem(h, 2502)) +
-                   vutest::KeyIn(h, L"F1") + vutest::KeyIn(h, L"Escape") +
-                   vutest::ClickOn(GetDlgItem(h, 6)) + vutest::ClickOn(GetDlgItem(h, 7));
-        });
+        vutest::InputScript input(L"Real input condition", L"2501 2502 F1 Escape 6");
         result = dlg.DoModal();
     }
-    EXPECT_EQ(7, result);
-    EXPECT_EQ((std::vector<unsigned>{2501, 2502}), checks.ids);
-    EXPECT_EQ((std::vector<bool>{true, false}), checks.seen);
+    EXPECT_EQ(6, result);
+    EXPECT_EQ((std::vector<std::pair<unsigned, bool>>{{2501, true}, {2502, false}}), g_checks);
     EXPECT_TRUE(dlg.IsWarningCheckboxChecked(2501));
     EXPECT_FALSE(dlg.IsWarningCheckboxChecked(2502));
-    EXPECT_FALSE(dlg.IsWarningCheckboxChecked(2503));
-    EXPECT_EQ((std::vector<unsigned>{9, 6, 7}), presses.ids) << "Esc never reaches the callback";
+    EXPECT_EQ((std::vector<unsigned>{9, 6}), presses.ids) << "Esc refused before the callback";
     EXPECT_EQ((std::vector<DWORD>{0x20000 + 77}), help.contexts);
 }
 
 TEST(ConditionActionSetup, AddersAndSettersReportWhatTheyTook) {
     AF_CConditionActionDlg dlg;
-    struct Row {
-        const char* name;
-        UINT text;
-        bool box;
-        UINT id;
-        int expected;
-    } rows[] = {
-        {"box 2500 refused", IDS_T_WARN_OUTPUTS, true, 2500, 0},
-        {"box 2501", IDS_T_WARN_OUTPUTS, true, 2501, 1},
-        {"box 2600", IDS_T_WARN_OUTPUTS, true, 2600, 1},
-        {"box 2601 refused", IDS_T_WARN_OUTPUTS, true, 2601, 0},
-        {"no box: the id does not matter", IDS_T_WARN_FORCES, false, 7, 1},
-        {"text missing", IDS_T_MISSING, true, 2510, 0},
-    };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.name);
-        EXPECT_EQ(r.expected, dlg.AddWarning(r.text, r.box, r.id, true));
-    }
-    EXPECT_TRUE(dlg.IsWarningCheckboxChecked(2600)) << "added checked";
-    EXPECT_FALSE(dlg.IsWarningCheckboxChecked(7));
+    const UINT text = IDS_T_WARN_OUTPUTS;
+    EXPECT_EQ((std::vector<int>{0, 1, 1, 0, 1, 0}),
+              (std::vector<int>{
+                  dlg.AddWarning(text, true, 2500, true), dlg.AddWarning(text, true, 2501, false),
+                  dlg.AddWarning(text, true, 2600, true), dlg.AddWarning(text, true, 2601, true),
+                  dlg.AddWarning(text, false, 7, true), // no box: any id
+                  dlg.AddWarning(IDS_T_MISSING, true, 2510, true)}));
+    EXPECT_TRUE(dlg.IsWarningCheckboxChecked(2600) && !dlg.IsWarningCheckboxChecked(7));
     EXPECT_EQ(0, dlg.AddWarnings(IDS_T_WARN_FORCES, IDS_T_MISSING, 0));
     EXPECT_EQ(1, dlg.AddGroupLabelAndItemLabels(IDS_T_GROUP, IDS_T_NAME, 0));
     EXPECT_EQ(0, dlg.AddGroupLabelAndItemLabels(IDS_T_GROUP, IDS_T_MISSING, 0));
     EXPECT_EQ(0, dlg.SetTitle(IDS_T_MISSING));
-    EXPECT_TRUE(dlg.EnableCheckbox(2501, false));
-    EXPECT_FALSE(dlg.EnableCheckbox(2599, false));
-    EXPECT_FALSE(dlg.EnableButton(6, false)) << "no command ids yet";
+    EXPECT_FALSE(dlg.EnableCheckbox(2599, false) || dlg.EnableButton(6, false)) << "unknown ids";
 }
 
-// Records the controls as OnInitDialog left them, tries EnableButton and
-// EnableCheckbox afterwards, and closes before showing.
+// Checks the controls against the layout and the enablers once the
+// controls exist, then closes unseen.
 class InspectedDlg : public AF_CConditionActionDlg {
 public:
     BOOL OnInitDialog() override {
         AF_CConditionActionDlg::OnInitDialog();
+        CRect window;
         GetWindowRect(&window);
-        for (size_t i = 0; i < m_labelCtrls.size(); ++i)
-            labels.push_back(ChildRect(*m_labelCtrls[i]));
-        for (const auto& v : m_valueCtrls) {
-            values.push_back(ChildRect(*v));
-            shown.push_back(v->GetDisplayedText());
+        EXPECT_EQ(m_layout.m_windowSize, window.Size());
+        for (const auto& label : m_labelCtrls)
+            labelTops.push_back(Rect(*label).top);
+        for (size_t i = 0; i < m_valueCtrls.size(); ++i) {
+            EXPECT_EQ(m_layout.m_valueRects[i], Rect(*m_valueCtrls[i]));
+            shown.push_back(m_valueCtrls[i]->GetDisplayedText());
         }
-        for (const auto& w : m_warningTexts)
-            warnings.push_back(ChildRect(*w));
-        prompt = m_wndPrompt.m_hWnd ? ChildRect(m_wndPrompt) : CRect();
+        for (size_t i = 0; i < m_warningTexts.size(); ++i)
+            EXPECT_EQ(m_layout.m_warningPositions[i].m_rcText, Rect(*m_warningTexts[i]));
+        EXPECT_EQ(m_layout.m_rcPrompt, Rect(m_wndPrompt));
         conditionShown = (m_wndConditionText.GetStyle() & WS_VISIBLE) != 0;
-        labelShown = (m_wndConditionLabel.GetStyle() & WS_VISIBLE) != 0;
-        box2502Checked = IsDlgButtonChecked(m_hWnd, 2502) == BST_CHECKED;
-        enabledBefore = {::IsWindowEnabled(::GetDlgItem(m_hWnd, 7)) != 0,
-                         ::IsWindowEnabled(::GetDlgItem(m_hWnd, 2501)) != 0};
-        EnableButton(7, true);
-        EnableCheckbox(2501, true);
-        enabledAfter = {::IsWindowEnabled(::GetDlgItem(m_hWnd, 7)) != 0,
-                        ::IsWindowEnabled(::GetDlgItem(m_hWnd, 2501)) != 0};
-        closeGrey = vutest::CloseIsGrey(m_hWnd);
-        layout = m_layout;
+        EXPECT_EQ(conditionShown, (m_wndConditionLabel.GetStyle() & WS_VISIBLE) != 0);
+        EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(m_hWnd, 2502));
+        EXPECT_TRUE(vutest::CloseIsGrey(m_hWnd)) << "Yes and No: no cancel";
+        for (bool after : {false, true}) { // disabled before, enabled after
+            EXPECT_EQ(after, ::IsWindowEnabled(::GetDlgItem(m_hWnd, 7)) != 0);
+            EXPECT_EQ(after, ::IsWindowEnabled(::GetDlgItem(m_hWnd, 2501)) != 0);
+            EnableButton(7, true);
+            EnableCheckbox(2501, true);
+        }
         ::EndDialog(m_hWnd, 1234);
         return TRUE;
     }
-    CRect ChildRect(const CWnd& w) const {
-        CRect rc;
-        w.GetWindowRect(&rc);
-        ScreenToClient(&rc);
-        return rc;
-    }
-    CRect window, prompt;
-    std::vector<CRect> labels, values, warnings;
+    CRect Rect(const CWnd& w) const { return vutest::ChildRect(m_hWnd, w.m_hWnd); }
+    std::vector<int> labelTops;
     std::vector<CString> shown;
-    bool conditionShown = false, labelShown = false, box2502Checked = false, closeGrey = false;
-    std::vector<bool> enabledBefore, enabledAfter;
-    AF_CConditionActionLayout layout;
+    bool conditionShown = false;
 };
 
-TEST(ConditionActionLayout, ControlsStandWhereTheLayoutPutsThem) {
-    InspectedDlg dlg;
-    Fill(dlg, L"Inspected");
-    dlg.EnableButton(7, false);
-    dlg.EnableCheckbox(2501, false);
-    ASSERT_EQ(1234, dlg.DoModal());
-    const AF_CConditionActionLayout& l = dlg.layout;
-    EXPECT_EQ(l.m_windowSize, dlg.window.Size());
-    ASSERT_EQ(3u, dlg.labels.size());
-    EXPECT_EQ(l.m_nRowStep, dlg.labels[1].Height());
-    ASSERT_EQ(2u, dlg.values.size());
-    EXPECT_EQ(l.m_valueRects[0], dlg.values[0]);
-    EXPECT_EQ(l.m_valueRects[1], dlg.values[1]);
-    EXPECT_EQ(dlg.labels[1].top, dlg.values[0].top) << "a value beside its label";
-    EXPECT_LE(dlg.labels[2].right, dlg.values[1].left);
-    EXPECT_EQ(CString(L"MOTOR_CONTROL"), dlg.shown[1]);
+TEST(ConditionActionSetup, ControlsStandWhereTheLayoutPutsThem) {
+    InspectedDlg dlg, empty; // no condition: its line hides, the rest stays where it was
+    for (InspectedDlg* d : {&dlg, &empty}) {
+        Fill(*d, L"Inspected");
+        d->SetConditionText(d == &dlg ? L"Motor_M1 is running." : L"");
+        d->EnableButton(7, false);
+        d->EnableCheckbox(2501, false);
+        ASSERT_EQ(1234, d->DoModal());
+    }
+    EXPECT_TRUE(dlg.conditionShown && !empty.conditionShown);
+    EXPECT_EQ(dlg.labelTops, empty.labelTops);
+    ASSERT_EQ(2u, dlg.shown.size());
     EXPECT_EQ(CString(L"..."), dlg.shown[0].Left(3)) << "the long value keeps its end";
     EXPECT_EQ(CString(L"Speed_Reference"), dlg.shown[0].Right(15));
-    ASSERT_EQ(2u, dlg.warnings.size());
-    EXPECT_EQ(l.m_warningPositions[1].m_rcText, dlg.warnings[1]);
-    EXPECT_GT(dlg.warnings[0].top, dlg.labels[2].bottom);
-    EXPECT_EQ(l.m_rcPrompt, dlg.prompt);
-    EXPECT_GT(dlg.prompt.top, dlg.warnings[1].bottom);
-    EXPECT_TRUE(dlg.box2502Checked);
-    EXPECT_TRUE(dlg.conditionShown && dlg.labelShown);
-    EXPECT_EQ((std::vector<bool>{false, false}), dlg.enabledBefore) << "wishes applied";
-    EXPECT_EQ((std::vector<bool>{true, true}), dlg.enabledAfter) << "enabled at once";
-    EXPECT_TRUE(dlg.closeGrey) << "Yes and No: no cancel";
-
-    InspectedDlg empty; // no condition: its line hides, the layout stays
-    Fill(empty, L"Inspected");
-    empty.SetConditionText(L"");
-    ASSERT_EQ(1234, empty.DoModal());
-    EXPECT_FALSE(empty.conditionShown || empty.labelShown);
-    EXPECT_EQ(dlg.labels[0].top, empty.labels[0].top);
+    EXPECT_EQ(CString(L"MOTOR_CONTROL"), dlg.shown[1]);
 }
 
 } // namespace

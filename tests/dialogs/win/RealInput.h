@@ -1,130 +1,111 @@
 #pragma once
-// Real keyboard and mouse input through the X server: xdotool, started from
-// the test under Wine (a Unix program runs from CreateProcess by its Z:
-// path), on a second thread while the test's own thread runs the modal
-// dialog. Screen coordinates of a Wine window are the X root's (no window
-// manager), and the keyboard focus follows the pointer, so every step
-// first parks the pointer inside the dialog.
+// Real keyboard and mouse input through the X server, and what the dialog
+// tests record. xdotool is a Unix program that Wine starts from its Z: path
+// without a process to wait for, so a dialog's whole script is one call
+// (chained commands run in order), started by a second thread once the
+// dialog shows. Wine's screen coordinates are the X root's and the focus
+// follows the pointer: every step first parks the pointer where it acts.
 #include <windows.h>
 
-#include <functional>
+#include "foundation/win/HostServices.h"
+#include "framework/Rect.h"
+#include "framework/TypedArrays.h"
+
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace vutest {
 
-// Runs xdotool scripts. Wine starts a Unix program slowly (about 2 s) and
-// without a process to wait for, so one shell started for the whole run
-// takes each script from a file the test drops into a directory, in order
-// (xdotool runs a script's chained commands in order). The shell ends when
-// the runner goes, or after 15 minutes.
-class XdotoolRunner {
-public:
-    static XdotoolRunner& Instance() {
-        static XdotoolRunner runner;
-        return runner;
-    }
-    bool Run(const std::wstring& args) {
-        const std::wstring name = m_dir + L"\\" + std::to_wstring(m_next++);
-        return Write(name + L".tmp", args) &&
-               MoveFileW((name + L".tmp").c_str(), (name + L".cmd").c_str());
-    }
-    ~XdotoolRunner() { Write(m_dir + L"\\quit", L""); }
-
-private:
-    XdotoolRunner() {
-        const std::wstring unixDir =
-            L"/tmp/vulib-xdotool-" + std::to_wstring(GetCurrentProcessId());
-        m_dir = L"Z:" + unixDir;
-        for (wchar_t& c : m_dir)
-            c = c == L'/' ? L'\\' : c;
-        CreateDirectoryW(m_dir.c_str(), nullptr);
-        Write(m_dir + L"\\run.sh", L"d=$(dirname \"$0\"); end=$(($(date +%s) + 900))\n"
-                                   L"while [ ! -e \"$d/quit\" ] && [ $(date +%s) -lt $end ]; do\n"
-                                   L"  for f in \"$d\"/*.cmd; do [ -e \"$f\" ] || continue; "
-                                   L"xdotool $(cat \"$f\"); rm -f \"$f\"; done\n"
-                                   L"  sleep 0.02\ndone\nrm -rf \"$d\"\n");
-        std::wstring command = L"Z:\\bin\\sh " + unixDir + L"/run.sh";
-        STARTUPINFOW si{};
-        si.cb = sizeof(si);
-        PROCESS_INFORMATION pi{};
-        if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                           &si, &pi)) {
-            CloseHandle(pi.hThread);
-            CloseHandle(pi.hProcess);
+// Steps separated by spaces: a number clicks the control with that id,
+// anything else is a key ("Escape", "alt+n") pressed in the dialog.
+inline std::wstring Script(HWND hDlg, const std::wstring& steps) {
+    std::wstring script, step;
+    for (size_t i = 0; i <= steps.size(); ++i) {
+        if (i < steps.size() && steps[i] != L' ') {
+            step += steps[i];
+            continue;
         }
+        HWND target = iswdigit(step[0]) ? GetDlgItem(hDlg, std::stoi(step)) : hDlg;
+        RECT rc{};
+        GetWindowRect(target, &rc);
+        script += L"mousemove " + std::to_wstring((rc.left + rc.right) / 2) + L" " +
+                  std::to_wstring((rc.top + rc.bottom) / 2) + L" sleep 0.05 " +
+                  (target == hDlg ? L"key " + step : std::wstring(L"click 1")) + L" sleep 0.2 ";
+        step.clear();
     }
-    static bool Write(const std::wstring& path, const std::wstring& text) {
-        HANDLE h = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                               FILE_ATTRIBUTE_NORMAL, nullptr);
-        if (h == INVALID_HANDLE_VALUE)
-            return false;
-        const std::string bytes(text.begin(), text.end()); // ASCII only
-        DWORD written = 0;
-        const BOOL ok =
-            WriteFile(h, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        CloseHandle(h);
-        return ok && written == bytes.size();
-    }
-    std::wstring m_dir;
-    int m_next = 0;
-};
-
-inline bool Xdotool(const std::wstring& args) {
-    return XdotoolRunner::Instance().Run(args);
+    return script;
 }
 
-// The centre of a window in screen coordinates, as xdotool arguments.
-inline std::wstring CentreOf(HWND hWnd) {
-    RECT rc{};
-    GetWindowRect(hWnd, &rc);
-    return std::to_wstring((rc.left + rc.right) / 2) + L" " +
-           std::to_wstring((rc.top + rc.bottom) / 2);
-}
-
-// Waits (up to 10 s) for a visible top-level window with this title.
-inline HWND WaitForWindow(const wchar_t* title) {
-    for (int i = 0; i < 500; ++i) {
-        HWND hWnd = FindWindowW(nullptr, title);
-        if (hWnd != nullptr && IsWindowVisible(hWnd))
-            return hWnd;
-        Sleep(20);
-    }
-    return nullptr;
-}
-
-// Once the window titled `title` shows, runs on a second thread the
-// xdotool script that `script` makes from the dialog's handle. Joined on
-// destruction.
+// Runs the script in the visible window titled `title` once it has had a
+// moment to reach the X server.
 class InputScript {
 public:
-    // Visible is not yet mapped on the X server: input sent at once may go
-    // to the window below.
-    static constexpr DWORD kSettleMs = 250;
-
-    InputScript(const wchar_t* title, std::function<std::wstring(HWND)> script)
-        : m_thread([t = std::wstring(title), script] {
-              if (HWND hDlg = WaitForWindow(t.c_str())) {
-                  Sleep(kSettleMs);
-                  Xdotool(script(hDlg));
+    InputScript(const wchar_t* title, const wchar_t* steps)
+        : m_thread([t = std::wstring(title), s = std::wstring(steps)] {
+              for (int i = 0; i < 500; ++i, Sleep(20)) {
+                  HWND hDlg = FindWindowW(nullptr, t.c_str());
+                  if (hDlg == nullptr || !IsWindowVisible(hDlg))
+                      continue;
+                  Sleep(250);
+                  std::wstring command = L"Z:\\usr\\bin\\xdotool " + Script(hDlg, s);
+                  STARTUPINFOW si{};
+                  si.cb = sizeof(si);
+                  PROCESS_INFORMATION pi{};
+                  if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                     nullptr, &si, &pi)) {
+                      CloseHandle(pi.hThread);
+                      CloseHandle(pi.hProcess);
+                  }
+                  return;
               }
           }) {}
     ~InputScript() { m_thread.join(); }
-    InputScript(const InputScript&) = delete;
-    InputScript& operator=(const InputScript&) = delete;
 
 private:
     std::thread m_thread;
 };
 
-// Script steps, each with the pointer parked in the window first (the
-// focus follows it) and a pause after it: keys ("Escape", "alt+a") in the
-// dialog, or a click on a control.
-inline std::wstring KeyIn(HWND hDlg, const wchar_t* keys) {
-    return L"mousemove " + CentreOf(hDlg) + L" sleep 0.05 key " + keys + L" sleep 0.2 ";
+// Host services that record every context-help request while installed.
+struct HelpRecorder : VU_CHostServices {
+    HelpRecorder() : previous(VuSetHostServices(this)) {}
+    ~HelpRecorder() override { VuSetHostServices(previous); }
+    BOOL ShowContextHelp(DWORD dwContext, HWND) override {
+        contexts.push_back(dwContext);
+        return TRUE;
+    }
+    VU_CHostServices* previous;
+    std::vector<DWORD> contexts;
+};
+
+// A press or click callback that records its ids and refuses one.
+struct CallbackLog {
+    std::vector<unsigned> ids;
+    unsigned refuse = 0;
+    static int Callback(unsigned id, void* user) {
+        auto* log = static_cast<CallbackLog*>(user);
+        log->ids.push_back(id);
+        return id != log->refuse ? 1 : 0;
+    }
+};
+
+inline CUIntArray Ids(const std::vector<UINT>& ids) {
+    CUIntArray a;
+    for (UINT id : ids)
+        a.Add(id);
+    return a;
 }
-inline std::wstring ClickOn(HWND hCtrl) {
-    return L"mousemove " + CentreOf(hCtrl) + L" sleep 0.05 click 1 sleep 0.2 ";
+
+// A child's rectangle in its dialog's client coordinates.
+inline CRect ChildRect(HWND hDlg, HWND hChild) {
+    RECT rc{};
+    GetWindowRect(hChild, &rc);
+    MapWindowPoints(nullptr, hDlg, reinterpret_cast<POINT*>(&rc), 2);
+    return CRect(rc.left, rc.top, rc.right, rc.bottom);
+}
+
+inline bool CloseIsGrey(HWND hDlg) {
+    return (GetMenuState(GetSystemMenu(hDlg, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED) != 0;
 }
 
 } // namespace vutest
