@@ -11,23 +11,18 @@ namespace {
 
 struct Dialog {
     Dialog() {
-        in.baseX = 6;
-        in.baseY = 13;
-        in.rcLabel = CRect(11, 10, 59, 23);
-        in.rcCondition = CRect(68, 10, 381, 33);
-        in.windowSize = CSize(399, 178);
-        in.clientSize = CSize(393, 154);
-        in.labelText = VU_T("Condition:"); // 54 pixels: 6 more than its control
-        in.conditionText = VU_T("Motor M1 is running");
+        in = {6,          13,         {11, 10, 59, 23},   {68, 10, 381, 33},
+              {399, 178}, {393, 154}, VU_T("Condition:"), VU_T("Motor M1 is running"),
+              {},         {}}; // the label needs 6 more pixels than its control
         in.captions.Add(CString(VU_T("Yes")));
         in.captions.Add(CString(VU_T("No")));
     }
-    void Label(const WCHAR* text, bool group) { labels.Add(CStaticTextItem(text, group)); }
-    void Warning(const CString& text, bool box) {
-        warnings.SetSize(warnings.GetSize() + 1);
-        warnings[warnings.GetUpperBound()].m_strText = text;
-        warnings[warnings.GetUpperBound()].m_bHasCheckbox = box;
+    // Item labels end in a colon; the others are group labels.
+    void Labels(std::initializer_list<CString> texts) {
+        for (const CString& t : texts)
+            labels.Add(CStaticTextItem(t, t.Right(1) != VU_T(":")));
     }
+    void Warning(const CString& text, bool box) { warnings.Add(CWarningItem{text, box}); }
     const AF_CConditionActionLayout& Run() {
         layout.Calculate(in, labels, values, warnings, m);
         return layout;
@@ -45,43 +40,29 @@ TEST(ConditionActionLayout, LabelsAndValuesBelowTheConditionLine) {
         SCOPED_TRACE(visible ? "condition shown" : "condition empty: as if it were there");
         Dialog d;
         d.in.conditionText = visible ? d.in.conditionText : CString();
-        d.Label(VU_T("Tag"), true);
-        d.Label(VU_T("Name:"), false);
-        d.Label(VU_T("Type:"), false);
-        d.Label(VU_T("Where"), true);
-        d.Label(VU_T("Routine:"), false);
+        d.Labels({VU_T("Tag"), VU_T("Name:"), VU_T("Type:"), VU_T("Where"), VU_T("Routine:")});
         d.values.Add(CTruncStaticTextItem(VU_T("Motor_M1"), false));
         d.values.Add(CTruncStaticTextItem(VU_T("BOOL"), false));
         const AF_CConditionActionLayout& l = d.Run();
         EXPECT_EQ(13, l.m_nRowStep) << "9 units converted with baseX";
         EXPECT_EQ(CRect(11, 10, 65, 23), l.m_rcLabel) << "widened by the label's excess";
         EXPECT_EQ(CRect(74, 10, 381, 33), l.m_rcCondition) << "its right edge stays";
-        const int tops[] = {45, 62, 79, 100, 117}; // +17, +17, +21 before a group, +17
-        const int lefts[] = {11, 74, 74, 11, 74};
-        for (int i = 0; i < 5; ++i) {
-            EXPECT_EQ(tops[i], d.labels[i].m_nTop) << i;
-            EXPECT_EQ(lefts[i], d.labels[i].m_nLeft) << i;
-        }
+        std::vector<CPoint> at; // tops +17, +17, +21 before a group, +17
+        for (INT_PTR i = 0; i < d.labels.GetSize(); ++i)
+            at.emplace_back(d.labels[i].m_nLeft, d.labels[i].m_nTop);
+        EXPECT_EQ((std::vector<CPoint>{{11, 45}, {74, 62}, {74, 79}, {11, 100}, {74, 117}}), at);
         ASSERT_EQ(2u, l.m_valueRects.size()); // right of "Routine:", the widest item label (45)
         EXPECT_EQ(CRect(74 + 45 + 7, 62, 381, 75), l.m_valueRects[0]);
         EXPECT_EQ(79, l.m_valueRects[1].top);
     }
-    Dialog wide; // an item label that leaves less than a minimum button widens the dialog
-    wide.Label(CString(VU_T('W'), 28), false);
-    wide.values.Add(CTruncStaticTextItem(VU_T("1"), false));
-    const AF_CConditionActionLayout& w = wide.Run();
-    EXPECT_EQ(CRect(74 + 280 + 7, 45, 74 + 280 + 7 + 43, 58), w.m_valueRects[0]);
-    EXPECT_EQ(399 + w.m_valueRects[0].right - 381, w.m_windowSize.cx);
 }
 
 TEST(ConditionActionLayout, WarningsStackBelowTheLabelsAndWrap) {
     Dialog d;
-    d.Label(VU_T("Tag"), true);
+    d.Labels({VU_T("Tag")});
     d.Warning(VU_T("Outputs change state."), false);
-    CString long342; // 342 pixels: fits 347, not the 330 beside a check box
-    for (int i = 0; i < 9; ++i)
-        long342 += VU_T("abcde ");
-    d.Warning(long342 + VU_T("end"), true);
+    // 342 pixels: fits the 347 of a text, not the 330 beside a check box.
+    d.Warning(VU_T("abcde abcde abcde abcde abcde abcde abcde abcde abcde end"), true);
     d.Warning(VU_T("Last"), false);
     const AF_CConditionActionLayout& l = d.Run();
     ASSERT_EQ(3u, l.m_warningPositions.size());
@@ -111,7 +92,7 @@ TEST(ConditionActionLayout, PromptAndHeightFollowTheLowestPart) {
         Dialog d;
         d.in.conditionText = r.condition ? d.in.conditionText : CString();
         if (r.label)
-            d.Label(VU_T("Tag"), true);
+            d.Labels({VU_T("Tag")});
         if (r.warning)
             d.Warning(VU_T("Careful"), false);
         d.in.promptText = r.prompt ? VU_T("Continue?") : VU_T("");

@@ -1,8 +1,7 @@
-// The message box's and save-options box's arithmetic and the truncation of
-// values, with the fixed fake font at base units 6 x 13.
+// The message box's and the save-options box's arithmetic, with the fixed
+// fake font at base units 6 x 13.
 #include "dialogs/DialogLayout.h"
 #include "dialogs/SaveOptionsLayout.h"
-#include "dialogs/TextTruncation.h"
 
 #include "FakeMeasuring.h"
 
@@ -64,11 +63,6 @@ TEST(DialogLayout, PromptGrowsOnOneLineUpToFiftyFivePercentThenWraps) {
         m.workArea = r.workArea;
         EXPECT_EQ(r.expected, AF_CDialogLayout::CalcTextControlDxDy(r.text, control, m));
     }
-    FakeMeasuring m; // the dialog keeps its size unless the prompt or the buttons need more
-    EXPECT_EQ(CSize(231, 101), Layout({VU_T("OK")}).CalcDialogSize({231, 101}, {0, 0}, m));
-    EXPECT_EQ(CSize(261, 114), Layout({VU_T("OK")}).CalcDialogSize({231, 101}, {30, 13}, m));
-    EXPECT_EQ(CSize(268, 101), Layout({VU_T("Yes To All"), VU_T("Yes To All"), VU_T("Yes To All")})
-                                   .CalcDialogSize({231, 101}, {0, 0}, m));
 }
 
 TEST(SaveOptionsLayout, GrowsAroundThePromptWithTheButtonsCentredUnderIt) {
@@ -85,27 +79,6 @@ TEST(SaveOptionsLayout, GrowsAroundThePromptWithTheButtonsCentredUnderIt) {
     EXPECT_EQ(CRect(50, 15, 381, 54), prompt);
     EXPECT_EQ(CRect(55, 89, 130, 111), buttons[0]);
     EXPECT_EQ(prompt.CenterPoint().x, (buttons[0].left + buttons[1].right) / 2);
-}
-
-TEST(TextTruncation, CutsTheEndOrTheStartToFit) {
-    const CString path(VU_T("Line3_Packer.Motors.M1")); // 129 pixels
-    struct Row {
-        const char* name;
-        int width;
-        bool keepEnd;
-        const WCHAR* expected;
-    } rows[] = {
-        {"fits exactly", 129, false, VU_T("Line3_Packer.Motors.M1")},
-        {"one pixel short", 128, false, VU_T("Line3_Packer.Motor...")},
-        {"end kept", 60, true, VU_T("...tors.M1")},
-        {"room for the dots only", 20, true, VU_T("...")},
-        {"no room for the dots", 17, false, VU_T("")},
-    };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.name);
-        FakeMeasuring m;
-        EXPECT_EQ(CString(r.expected), VuTruncateText(path, r.width, r.keepEnd, m));
-    }
 }
 
 } // namespace

@@ -1,38 +1,50 @@
 #pragma once
-// Real keyboard and mouse input through the X server, and what the dialog
-// tests record. xdotool is a Unix program that Wine starts from its Z: path
-// without a process to wait for, so a dialog's whole script is one call
-// (chained commands run in order), started by a second thread once the
-// dialog shows. Wine's screen coordinates are the X root's and the focus
-// follows the pointer: every step first parks the pointer where it acts.
+// Real input through the X server, and what the dialog tests record. Wine
+// starts xdotool (a Unix program) without a process to wait for, so a
+// dialog's whole script is one call, made once the dialog shows. Screen
+// coordinates are the X root's; the focus follows the pointer.
 #include <windows.h>
 
 #include "foundation/win/HostServices.h"
 #include "framework/Rect.h"
 #include "framework/TypedArrays.h"
 
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
 
+// The tests' own strings (DialogTestStrings.rc); 41999 is not there.
+constexpr UINT IDS_T_FORMAT = 41000, IDS_T_LONG = 41001, IDS_T_YES = 41002, IDS_T_NO = 41003,
+               IDS_T_YES_TO_ALL = 41004, IDS_T_GROUP = 41005, IDS_T_NAME = 41006,
+               IDS_T_TYPE = 41007, IDS_T_WARN_OUTPUTS = 41008, IDS_T_WARN_FORCES = 41009,
+               IDS_T_MISSING = 41999;
+
 namespace vutest {
+
+// Asks Wine to leave this program's windows unmanaged, before any exists:
+// without a window manager it waits 2 s whenever a managed window hides.
+// Read as the driver loads, so it holds from the second run in a prefix on.
+inline const bool unmanagedWindows = [] {
+    wchar_t path[MAX_PATH];
+    const std::wstring exe(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
+    const std::wstring key = L"Software\\Wine\\AppDefaults\\" +
+                             exe.substr(exe.find_last_of(L"\\/") + 1) + L"\\X11 Driver";
+    return RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), L"Managed", REG_SZ, L"N", 4) == 0;
+}();
 
 // Steps separated by spaces: a number clicks the control with that id,
 // anything else is a key ("Escape", "alt+n") pressed in the dialog.
 inline std::wstring Script(HWND hDlg, const std::wstring& steps) {
+    std::wistringstream in(steps);
     std::wstring script, step;
-    for (size_t i = 0; i <= steps.size(); ++i) {
-        if (i < steps.size() && steps[i] != L' ') {
-            step += steps[i];
-            continue;
-        }
+    while (in >> step) {
         HWND target = iswdigit(step[0]) ? GetDlgItem(hDlg, std::stoi(step)) : hDlg;
         RECT rc{};
         GetWindowRect(target, &rc);
         script += L"mousemove " + std::to_wstring((rc.left + rc.right) / 2) + L" " +
                   std::to_wstring((rc.top + rc.bottom) / 2) + L" sleep 0.05 " +
-                  (target == hDlg ? L"key " + step : std::wstring(L"click 1")) + L" sleep 0.2 ";
-        step.clear();
+                  (target == hDlg ? L"key " + step : L"click 1") + L" sleep 0.2 ";
     }
     return script;
 }
@@ -66,12 +78,18 @@ private:
     std::thread m_thread;
 };
 
+// Runs a dialog modally while the script drives it.
+template <class Dlg> INT_PTR RunWithInput(Dlg& dlg, const wchar_t* title, const wchar_t* steps) {
+    InputScript input(title, steps);
+    return dlg.DoModal();
+}
+
 // Host services that record every context-help request while installed.
 struct HelpRecorder : VU_CHostServices {
     HelpRecorder() : previous(VuSetHostServices(this)) {}
     ~HelpRecorder() override { VuSetHostServices(previous); }
-    BOOL ShowContextHelp(DWORD dwContext, HWND) override {
-        contexts.push_back(dwContext);
+    BOOL ShowContextHelp(DWORD context, HWND) override {
+        contexts.push_back(context);
         return TRUE;
     }
     VU_CHostServices* previous;
