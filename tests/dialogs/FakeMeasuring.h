@@ -1,7 +1,6 @@
 #pragma once
-// A fixed fake font: characters 6 pixels wide, 'W' 10 and 'i' 3, lines 13
-// high. Wrapping breaks at spaces and line breaks; a word longer than the
-// width sticks out, as DrawText does.
+// A fixed fake font: characters 6 pixels wide, 'W' 10, 'i' 3, lines 13 high;
+// lines wrap at spaces, and a longer word sticks out, as with DrawText.
 #include "dialogs/DialogMeasuring.h"
 
 #include <algorithm>

@@ -111,14 +111,12 @@ TEST(MessageBoxInput, KeysAndClicksCloseItAsTheCallerAsked) {
 TEST(MessageBoxSetup, SettersResultsAndInvalidArguments) {
     AF_CMessageBox box;
     EXPECT_EQ(0, box.SetTitle(IDS_T_MISSING));
-    EXPECT_EQ(1, box.SetTitle(IDS_VU_OK));
     EXPECT_EQ(1, box.SetPromptText(IDS_T_FORMAT, L"3", L"12", L"the controller"));
     EXPECT_EQ(CString(L"Save 3 of 12 routines to the controller?"), box.GetPromptText());
     EXPECT_EQ(1, box.SetPromptText(IDS_T_MISSING));
     EXPECT_EQ(CString(), box.GetPromptText());
     EXPECT_EQ(1, box.SetPromptText(IDS_VU_APPLICATION_TERMINATE)); // the formatter writes CR LF
     EXPECT_EQ(CString(L"\r\nApplication will terminate."), box.GetPromptText());
-    EXPECT_EQ(1, box.SetButtonStringIDs(IDS_VU_YES, IDS_VU_NO, 0));
     EXPECT_EQ(0, box.SetButtonStringIDs(IDS_VU_YES, IDS_T_MISSING, IDS_VU_NO, 0));
     AF_CMessageBox noIds, fewIds; // no command ids and no default; more captions than ids
     noIds.SetButtonStringIDs(IDS_VU_OK, 0);

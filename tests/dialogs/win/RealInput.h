@@ -1,8 +1,7 @@
 #pragma once
-// Real input through the X server, and what the dialog tests record. Wine
-// starts xdotool (a Unix program) without a process to wait for, so a
-// dialog's whole script is one call, made once the dialog shows. Screen
-// coordinates are the X root's; the focus follows the pointer.
+// Real input through the X server (xdotool: one call per dialog, as Wine starts
+// a Unix program without a process to wait for), and what the dialog tests
+// record. Screen coordinates are the X root's; the focus follows the pointer.
 #include <windows.h>
 
 #include "foundation/win/HostServices.h"
@@ -22,9 +21,9 @@ constexpr UINT IDS_T_FORMAT = 41000, IDS_T_LONG = 41001, IDS_T_YES = 41002, IDS_
 
 namespace vutest {
 
-// Asks Wine to leave this program's windows unmanaged, before any exists:
-// without a window manager it waits 2 s whenever a managed window hides.
-// Read as the driver loads, so it holds from the second run in a prefix on.
+// Leaves this program's windows unmanaged (no window manager: Wine waits 2 s
+// whenever a managed window hides); read as the driver loads, so from the
+// second run in a prefix on.
 inline const bool unmanagedWindows = [] {
     wchar_t path[MAX_PATH];
     const std::wstring exe(path, GetModuleFileNameW(nullptr, path, MAX_PATH));
@@ -49,8 +48,7 @@ inline std::wstring Script(HWND hDlg, const std::wstring& steps) {
     return script;
 }
 
-// Runs the script in the visible window titled `title` once it has had a
-// moment to reach the X server.
+// Runs the script once the window titled `title` shows (and a moment later).
 class InputScript {
 public:
     InputScript(const wchar_t* title, const wchar_t* steps)
@@ -69,6 +67,10 @@ public:
                       CloseHandle(pi.hThread);
                       CloseHandle(pi.hProcess);
                   }
+                  for (int wait = 0; wait < 500 && IsWindow(hDlg); ++wait)
+                      Sleep(20);
+                  if (IsWindow(hDlg)) // the flow did not close it: end it, the test fails
+                      EndDialog(hDlg, -2);
                   return;
               }
           }) {}
