@@ -21,8 +21,8 @@ const int kSnapshotResult = 4242;
 template <class Dlg> class Snapshot : public Dlg {
 public:
     template <class... Args>
-    Snapshot(Context& c, const wchar_t* name, Args&&... args)
-        : Dlg(std::forward<Args>(args)...), m_context(c), m_name(name) {}
+    Snapshot(Context& c, const wchar_t* name, const wchar_t* caption, Args&&... args)
+        : Dlg(std::forward<Args>(args)...), m_context(c), m_name(name), m_caption(caption) {}
 
 protected:
     BOOL OnInitDialog() override {
@@ -33,7 +33,10 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_TIMER && wParam == kSnapshotTimer) {
             this->KillTimer(kSnapshotTimer);
-            m_context.Check(m_context.SaveWindowPng(this->m_hWnd, m_name), "saving the picture");
+            // The client area: without a window manager Wine leaves a
+            // dialog's caption and frame undrawn.
+            m_context.Check(m_context.SaveClientPng(this->m_hWnd, m_name, m_caption),
+                            "saving the picture");
             CheckControls();
             Dlg::EndDialog(kSnapshotResult);
             return 0;
@@ -66,11 +69,15 @@ private:
 
     Context& m_context;
     const wchar_t* m_name;
+    const wchar_t* m_caption;
 };
 
 void MessageBoxExhibit(Context& c) {
-    Snapshot<AF_CMessageBox> box(c, L"message_box");
-    box.SetTitle(L"VuLib gallery - unsaved edits");
+    Snapshot<AF_CMessageBox> box(
+        c, L"message_box",
+        L"AF_CMessageBox \"Unsaved edits\": a long prompt wrapped at 55 % of the screen, "
+        L"four buttons of unequal captions centred under it");
+    box.SetTitle(L"Unsaved edits");
     box.SetPromptText(IDS_G_UNSAVED_PROMPT, L"Fill_Sequence", L"Line3_Filler", L"Line3_Packer.VXD");
     box.SetButtonStringIDs(IDS_G_SAVE, IDS_G_SAVE_AS, IDS_G_DISCARD, IDS_VU_CANCEL, 0);
     box.SetButtonCmdIDs(IDYES, 10, IDNO, IDCANCEL, 0);
@@ -81,6 +88,7 @@ void MessageBoxExhibit(Context& c) {
 void SaveOptionsExhibit(Context& c) {
     Snapshot<Vu_CSaveOptionsMessageBox> box(
         c, L"save_options_box",
+        L"Vu_CSaveOptionsMessageBox \"Confirm Save Operation\": a two-line prompt",
         L"Routine Fill_Sequence has been edited.\nSave the changes before downloading "
         L"to the controller?",
         MB_ICONQUESTION, nullptr);
@@ -88,7 +96,10 @@ void SaveOptionsExhibit(Context& c) {
 }
 
 void ConditionActionExhibit(Context& c) {
-    Snapshot<AF_CConditionActionDlg> dlg(c, L"condition_action_dialog");
+    Snapshot<AF_CConditionActionDlg> dlg(
+        c, L"condition_action_dialog",
+        L"AF_CConditionActionDlg \"Go Offline\": two groups of values (one cut to keep its "
+        L"end), two warnings (one with a checked box) and a prompt");
     dlg.SetTitle(IDS_G_TITLE_GO_OFFLINE);
     dlg.SetConditionText(L"The controller Line3_Packer is in Remote Run mode with test edits "
                          L"active.");
