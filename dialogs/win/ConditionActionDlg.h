@@ -8,6 +8,9 @@
 // layout (AF_CConditionActionLayout) is computed from the texts before any
 // control is made.
 //
+// Errors: no command ids and no default button, or more captions than
+// command ids, make DoModal raise CInvalidArgException (as the message box).
+//
 // Decisions of this library:
 // - AddGroupLabelAndItemLabels adds nothing when one of its strings does
 //   not load, so values never land beside the wrong label; AddWarnings adds
