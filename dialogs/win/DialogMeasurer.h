@@ -1,6 +1,8 @@
 #pragma once
 // AF_CDialogMeasurer: the dialog layouts' measurements taken from GDI with a
-// window's own font (the dialog's, or a control's) selected into its DC.
+// window's own font (the dialog's, or a control's) selected into its DC. The
+// work area is that of the monitor nearest the host's main window, or
+// nearest the measured window when the host has none.
 #include <windows.h>
 
 #include "dialogs/DialogMeasuring.h"
