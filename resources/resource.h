@@ -31,3 +31,18 @@
 #define IDB_VU_LAYOUT_TIMER 4612
 #define IDB_VU_LAYOUT_PROBE 4613     // 8x4 test pattern: red | blue, bottom row magenta
 #define IDB_VU_LAYOUT_PROBE_ALT 4614 // 5x3 green test pattern
+// Dialogs: the save-options box, the message box and the condition-action
+// dialog, with their controls
+#define IDD_VU_SAVE_OPTIONS 2000
+#define IDD_VU_MESSAGE_BOX 2001
+#define IDD_VU_CONDITION_ACTION 3275
+#define IDC_VU_SAVE_YESTOALL 3100
+#define IDC_VU_SAVE_ICON 3101
+#define IDC_VU_SAVE_PROMPT 3102
+#define IDC_VU_MSGBOX_ICON 3120
+#define IDC_VU_MSGBOX_TEXT 3121
+#define IDC_VU_CONDITION_TEXT 3279
+#define IDC_VU_CONDITION_LABEL 3280
+#ifndef ID_HELP
+#define ID_HELP 57670 // the framework's help command
+#endif

@@ -1,0 +1,15 @@
+#pragma once
+// String ids of the dialog exhibits' own string table.
+#define IDS_G_UNSAVED_PROMPT 42000
+#define IDS_G_SAVE 42001
+#define IDS_G_SAVE_AS 42002
+#define IDS_G_DISCARD 42003
+#define IDS_G_GROUP_TAG 42010
+#define IDS_G_TAG_NAME 42011
+#define IDS_G_TAG_TYPE 42012
+#define IDS_G_GROUP_ROUTINE 42013
+#define IDS_G_ROUTINE_NAME 42014
+#define IDS_G_ROUTINE_PROGRAM 42015
+#define IDS_G_WARN_OUTPUTS 42020
+#define IDS_G_WARN_TEST_EDITS 42021
+#define IDS_G_TITLE_GO_OFFLINE 42030
