@@ -6,6 +6,8 @@
 // Run under Wine: xvfb-run -a scripts/wine-run build/<dir>/bin/bench_check_toggle.exe
 #include <windows.h>
 
+#include "Clock.h"
+
 #include "tree/CheckImages.h"
 #include "tree/win/ExCheckBoxTreeListBox.h"
 
@@ -14,6 +16,8 @@
 #include <functional>
 #include <string>
 
+using vu::bench::Now;
+
 namespace {
 
 constexpr int kGroups = 100;
@@ -21,15 +25,6 @@ constexpr int kLeaves = 99; // 1 + 100 * (1 + 99) = 10,001 nodes
 constexpr int kRounds = 21;
 constexpr DWORD kStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
-
-double Now() {
-    static LARGE_INTEGER frequency{};
-    if (frequency.QuadPart == 0)
-        QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER counter;
-    QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 double Best(const std::function<void()>& timed) {
     double best = 1e30;

@@ -7,6 +7,8 @@
 // Run under Wine: xvfb-run -a scripts/wine-run build/<dir>/bin/bench_tabs_fit.exe
 #include <windows.h>
 
+#include "Clock.h"
+
 #include "tabs/win/TabBeam.h"
 
 #include <algorithm>
@@ -14,18 +16,11 @@
 #include <functional>
 #include <string>
 
+using vu::bench::Now;
+
 namespace {
 
 constexpr int kRounds = 5;
-
-double Now() {
-    static LARGE_INTEGER frequency{};
-    if (frequency.QuadPart == 0)
-        QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER counter;
-    QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 double BestMs(const std::function<void()>& prepare, const std::function<void()>& timed) {
     double best = 1e30;

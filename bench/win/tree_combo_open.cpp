@@ -12,6 +12,8 @@
 // Run under Wine: xvfb-run -a scripts/wine-run build/windows/bin/bench_tree_combo_open.exe
 #include <windows.h>
 
+#include "Clock.h"
+
 #include "tree/win/TreeComboBoxEx.h"
 #include "tree/win/TreeListBox.h"
 
@@ -22,21 +24,14 @@
 #include <string>
 #include <vector>
 
+using vu::bench::Now;
+
 namespace {
 
 int kChildren = 10000; // argv[1] may change it
 constexpr int kRounds = 15;
 constexpr DWORD kListStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
-
-double Now() {
-    static LARGE_INTEGER frequency{};
-    if (frequency.QuadPart == 0)
-        QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER counter;
-    QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 void Pump() {
     MSG msg;

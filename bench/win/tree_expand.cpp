@@ -4,6 +4,8 @@
 // Run under Wine: xvfb-run -a scripts/wine-run build/<dir>/bin/bench_tree_expand.exe
 #include <windows.h>
 
+#include "Clock.h"
+
 #include "tree/win/TreeListBox.h"
 
 #include <algorithm>
@@ -13,21 +15,14 @@
 #include <string>
 #include <vector>
 
+using vu::bench::Now;
+
 namespace {
 
 int kChildren = 10000; // argv[1] may change it
 constexpr int kRounds = 7;
 constexpr DWORD kStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
-
-double Now() {
-    static LARGE_INTEGER frequency{};
-    if (frequency.QuadPart == 0)
-        QueryPerformanceFrequency(&frequency);
-    LARGE_INTEGER counter;
-    QueryPerformanceCounter(&counter);
-    return static_cast<double>(counter.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // Best time of kRounds runs of `timed`, each after an untimed `prepare`.
 double Best(const std::function<void()>& prepare, const std::function<void()>& timed) {
