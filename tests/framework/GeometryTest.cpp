@@ -99,8 +99,6 @@ TEST(CRect, SubtractRectCutsOnlyWholeSides) {
         CRect want;
     } rows[] = {
         {"left strip", {-5, -5, 4, 20}, true, {4, 0, 10, 10}},
-        {"right strip", {6, 0, 10, 10}, true, {0, 0, 6, 10}},
-        {"top strip", {0, 0, 10, 3}, true, {0, 3, 10, 10}},
         {"bottom strip", {-1, 7, 11, 12}, true, {0, 0, 10, 7}},
         {"hole in the middle", {3, 3, 6, 6}, true, {0, 0, 10, 10}},
         {"corner", {5, 5, 20, 20}, true, {0, 0, 10, 10}},
