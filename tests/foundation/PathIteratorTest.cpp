@@ -29,18 +29,16 @@ TEST(PathIterator, WalksGrowingPrefixes) {
         vu::String path;
         std::string walk;
     } rows[] = {
-        {VU_T("c:\\a\\b"), "c:\\ c:\\a c:\\a\\b !"},
-        {VU_T("c:\\a\\b\\"), "c:\\ c:\\a c:\\a\\b !"},
-        {VU_T("c:\\"), "c:\\!"},
-        {VU_T("c:"), "c:\\!"},
+        // clang-format off
+        {VU_T("c:\\a\\b"), "c:\\ c:\\a c:\\a\\b !"}, {VU_T("c:\\a\\b\\"), "c:\\ c:\\a c:\\a\\b !"},
+        {VU_T("c:\\"), "c:\\!"}, {VU_T("c:"), "c:\\!"},
         {VU_T("c:\\a\\\\b"), "c:\\ c:\\a c:\\a\\ c:\\a\\\\b !"},
         {VU_T("\\\\srv\\share\\dir"), "\\\\srv\\ \\\\srv\\share \\\\srv\\share\\dir !"},
-        {VU_T("\\\\srv"), "\\\\srv\\!"},
-        {VU_T("ab\\cd"), "ab\\ ab\\cd !"},
-        {VU_T("a"), "!"},
+        {VU_T("\\\\srv"), "\\\\srv\\!"}, {VU_T("ab\\cd"), "ab\\ ab\\cd !"}, {VU_T("a"), "!"},
         {VU_T(""), "!"},
         {VU_T("/usr/lib"), "/us /usr/lib !"}, // only '\\' separates, on every platform
         {VU_T("c:/a"), "c:/ c:/a !"},
+        // clang-format on
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.path.begin(), row.path.end()));
