@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <ostream>
 
 // Printers so that failures show coordinates.
@@ -19,32 +18,6 @@ void PrintTo(const CSize& s, std::ostream* os) {
 }
 
 namespace {
-
-// A stand-in with the system RECT's shape, to check the layout promise and the
-// conversions that the Windows layer relies on.
-struct SysRect {
-    LONG left, top, right, bottom;
-};
-struct SysPoint {
-    LONG x, y;
-};
-
-TEST(CRect, HasTheLayoutOfTheSystemRect) {
-    static_assert(sizeof(CRect) == sizeof(SysRect));
-    static_assert(offsetof(CRect, left) == 0 && offsetof(CRect, top) == sizeof(LONG) &&
-                  offsetof(CRect, right) == 2 * sizeof(LONG) &&
-                  offsetof(CRect, bottom) == 3 * sizeof(LONG));
-    CRect r(1, 2, 3, 4);
-    SysRect* sys = r; // the RECT* view
-    sys->right = 30;
-    EXPECT_EQ(r, CRect(1, 2, 30, 4));
-    const SysRect from{5, 6, 7, 8};
-    EXPECT_EQ(CRect(from), CRect(5, 6, 7, 8));
-    SysPoint sp{9, 10};
-    CPoint p = sp;
-    static_cast<SysPoint*>(p)->x = 11;
-    EXPECT_EQ(p, CPoint(11, 10));
-}
 
 TEST(CRect, PtInRectIncludesTopLeftAndExcludesBottomRight) {
     const CRect r(0, 0, 10, 10);
