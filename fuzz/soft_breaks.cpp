@@ -51,7 +51,10 @@ void Step(FuzzedDataProvider& in, Soft& s) {
     }
     case 1: s.RemoveSoftLineBreaks(); s.ReplaceSoftLineBreaksWith(CString(a)); break;
     case 2: s.ReInsertSoftLineBreaks(); break;
-    case 3: s.SetSelection(Position(in, s), Position(in, s)); s.ReplaceSelectionWith(CString(a)); break;
+    case 3:
+        s.SetSelection(Position(in, s), Position(in, s));
+        s.ReplaceSelectionWith(CString(a));
+        break;
     case 4: // every search form; each moves the selection
         s.Find(a.c_str(), Position(in, s), flag);
         s.Find(c, Position(in, s), flag);

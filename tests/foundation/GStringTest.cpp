@@ -32,19 +32,21 @@ struct EditRow {
 // erasing: units pulled in by an erasure are still inside it.
 TEST(GString, EditsInPlace) {
     const EditRow rows[] = {
-        // clang-format off
         {"convert: a run as long as the set", VU_T("x-y-z"), EDIT(convert(VU_T("-+"), VU_T("="))),
          VU_T("x==")},
-        {"convert: on after the insertion", VU_T("a.b"), EDIT(convert(VU_T("."), VU_T(".."))), VU_T("a..b")},
+        {"convert: on after the insertion", VU_T("a.b"), EDIT(convert(VU_T("."), VU_T(".."))),
+         VU_T("a..b")},
         {"convert from pos", VU_T("a.b.c"), EDIT(convert(VU_T("."), VU_T("-"), 2)), VU_T("a.b-c")},
         {"convert up to the limit", VU_T("a.b.c.d"), EDIT(convert(VU_T("."), VU_T("-"), 0, 4)),
          VU_T("a-b-c.d")},
         {"filter keeps the set", VU_T("a1b2c3"), EDIT(filter(VU_T("0123456789"))), VU_T("123")},
         {"filter from pos", VU_T("a1b2c3"), EDIT(filter(VU_T("0123456789"), 2)), VU_T("a123")},
         {"filter, empty set", VU_T("abc"), EDIT(filter(VU_T(""), 1)), VU_T("a")},
-        {"filter pulls units in", VU_T("abcdef12"), EDIT(filter(VU_T("0123456789"), 0, 3)), VU_T("12")},
+        {"filter pulls units in", VU_T("abcdef12"), EDIT(filter(VU_T("0123456789"), 0, 3)),
+         VU_T("12")},
         {"remove erases the set", VU_T("a-b_c"), EDIT(remove(VU_T("-_"))), VU_T("abc")},
-        {"remove pulls units under the limit", VU_T("--a--"), EDIT(remove(VU_T("-"), 0, 2)), VU_T("a")},
+        {"remove pulls units under the limit", VU_T("--a--"), EDIT(remove(VU_T("-"), 0, 2)),
+         VU_T("a")},
         {"remove up to the limit", VU_T("a-b-c-d"), EDIT(remove(VU_T("-"), 0, 3)), VU_T("abc-d")},
         {"remove, count npos", VU_T("a.b.c"), EDIT(remove(VU_T("."), 2, S::npos)), VU_T("a.bc")},
         {"remove_substr", VU_T("abcabcab"), EDIT(remove_substr(VU_T("abc"))), VU_T("ab")},
@@ -52,7 +54,8 @@ TEST(GString, EditsInPlace) {
         {"remove_substr, match at limit", VU_T("xxabxxab"), EDIT(remove_substr(VU_T("ab"), 0, 4)),
          VU_T("xxxxab")},
         {"reduce_repeat", VU_T("abab-ababab"), EDIT(reduce_repeat(VU_T("ab"))), VU_T("ab-ab")},
-        {"reduce_repeat, overlapping halves", VU_T("a:::b"), EDIT(reduce_repeat(VU_T("::"))), VU_T("a:::b")},
+        {"reduce_repeat, overlapping halves", VU_T("a:::b"), EDIT(reduce_repeat(VU_T("::"))),
+         VU_T("a:::b")},
         {"reduce_repeat from pos", VU_T(",,a,,"), EDIT(reduce_repeat(VU_T(","), 2)), VU_T(",,a,")},
         {"trim", VU_T("--ab-c--"), EDIT(trim(VU_T("-"))), VU_T("ab-c")},
         {"trim of set units only", VU_T("---"), EDIT(trim(VU_T("-"))), VU_T("")},
@@ -64,9 +67,9 @@ TEST(GString, EditsInPlace) {
         {"mnemonic, no separators", VU_T("Routine"), EDIT(mnemonic(VU_T(" "), 3)), VU_T("Rou")},
         {"mnemonic, short words", VU_T("A Bc D"), EDIT(mnemonic(VU_T(" "), 3)), VU_T("ABcD")},
         {"mnemonic, odd separators", VU_T("  Ab  Cd "), EDIT(mnemonic(VU_T(" "), 3)), VU_T("AbCd")},
-        {"mnemonic, several separators", VU_T("Main_Task-X"), EDIT(mnemonic(VU_T("_-"), 2)), VU_T("MaTaX")},
+        {"mnemonic, several separators", VU_T("Main_Task-X"), EDIT(mnemonic(VU_T("_-"), 2)),
+         VU_T("MaTaX")},
         {"mnemonic, only separators", VU_T(" - "), EDIT(mnemonic(VU_T(" -"), 2)), VU_T("")},
-        // clang-format on
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

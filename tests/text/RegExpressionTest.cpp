@@ -1,6 +1,6 @@
-// Regular expressions: compile failures, search results, groups, replacement
-// templates, object state and the compiled program. Tables are grouped by
-// topic; every row carries a name shown on failure.
+// Regular expressions: compile failures, the search results the generated
+// comparisons (RegExpressionMatcherTest, RegExpressionPcre2Test) cannot reach,
+// replacement templates, object state, long links and the step budget.
 #include "text/RegExpression.h"
 
 #include "RegExpressionPatterns.h"
@@ -222,7 +222,7 @@ TEST(RegExpressionState, CopiesAreIndependent) {
     EXPECT_EQ(moved.GetFindLen(), 3);
 }
 
-// ---- Program format and hints -------------------------------------------------
+// ---- Program links -----------------------------------------------------------
 
 TEST(RegExpressionProgram, LinksBeyondSixteenBits) {
     vu::String pattern(70000, VU_T('q'));

@@ -215,10 +215,10 @@ TEST(SearchableStringReplace, Rules) {
         int count;
         vu::String result;
     } rows[] = {
-        // clang-format off
         {"non-overlapping", 'E', VU_T("aaaa"), VU_T("aa"), VU_T("b"), TRUE, 2, VU_T("bb")},
         {"null replacement deletes", 'E', VU_T("xaby"), VU_T("ab"), nullptr, TRUE, 1, VU_T("xy")},
-        {"empty find replaces nothing", 'E', VU_T("abc"), VU_T(""), VU_T("x"), TRUE, 0, VU_T("abc")},
+        {"empty find replaces nothing", 'E', VU_T("abc"), VU_T(""), VU_T("x"), TRUE, 0,
+         VU_T("abc")},
         {"whole text", 'E', VU_T("abc"), VU_T("abc"), VU_T(""), TRUE, 1, VU_T("")},
         {"whole word ignored", 'e', VU_T("concat cat"), VU_T("cat"), VU_T("dog"), FALSE, 1,
          VU_T("condog cat")},
@@ -231,17 +231,18 @@ TEST(SearchableStringReplace, Rules) {
          VU_T("condog x")},
         {"expression, no group references", 'X', VU_T("xaby"), VU_T("(a)(b)"), VU_T("\\2\\1"), TRUE,
          1, VU_T("x\\2\\1y")},
-        {"expression, first only", 'X', VU_T("a1b22c"), VU_T("[0-9]+"), VU_T("#"), FALSE, 1, VU_T("a#b22c")},
+        {"expression, first only", 'X', VU_T("a1b22c"), VU_T("[0-9]+"), VU_T("#"), FALSE, 1,
+         VU_T("a#b22c")},
         {"expression, no match", 'X', VU_T("abc"), VU_T("z"), VU_T("#"), TRUE, 0, VU_T("abc")},
         {"'^' matches after each replacement", 'X', VU_T("aaab"), VU_T("^a"), VU_T("b"), TRUE, 3,
          VU_T("bbbb")},
         {"empty match and empty replacement end", 'X', VU_T("abc"), VU_T("x*"), VU_T(""), TRUE, 4,
          VU_T("abc")},
-        {"empty and non-empty matches", 'X', VU_T("abc"), VU_T("b*"), VU_T("-"), TRUE, 4, VU_T("-a--c-")},
+        {"empty and non-empty matches", 'X', VU_T("abc"), VU_T("b*"), VU_T("-"), TRUE, 4,
+         VU_T("-a--c-")},
         {"end of text", 'X', VU_T("ab"), VU_T("$"), VU_T("X"), TRUE, 1, VU_T("abX")},
         {"start of text alone", 'X', VU_T("ab"), VU_T("^"), VU_T("X"), TRUE, 3, VU_T("XaXbX")},
         {"empty text", 'X', VU_T(""), VU_T("x*"), VU_T("-"), TRUE, 1, VU_T("-")},
-        // clang-format on
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -264,15 +265,16 @@ TEST(SearchableStringFields, CountAndEveryField) {
         const WCHAR *text, *delimiter;
         std::vector<vu::String> fields;
     } rows[] = {
-        // clang-format off
-        {"adjacent delimiters give empty fields", VU_T("a,,b"), VU_T(","), {VU_T("a"), VU_T(""), VU_T("b")}},
+        {"adjacent delimiters give empty fields",
+         VU_T("a,,b"),
+         VU_T(","),
+         {VU_T("a"), VU_T(""), VU_T("b")}},
         {"trailing delimiter", VU_T("a,"), VU_T(","), {VU_T("a"), VU_T("")}},
         {"text delimiter", VU_T("x::y::z"), VU_T("::"), {VU_T("x"), VU_T("y"), VU_T("z")}},
         {"non-overlapping delimiters", VU_T("aaaa"), VU_T("aa"), {VU_T(""), VU_T(""), VU_T("")}},
         {"no delimiter", VU_T("abc"), VU_T(","), {VU_T("abc")}},
         {"empty delimiter", VU_T("abc"), VU_T(""), {VU_T("abc")}},
         {"empty text", VU_T(""), VU_T(","), {VU_T("")}},
-        // clang-format on
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
