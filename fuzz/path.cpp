@@ -8,18 +8,13 @@
 #include "foundation/PathIterator.h"
 #include "foundation/SplitPath.h"
 
-#include <fuzzer/FuzzedDataProvider.h>
+#include "FuzzSupport.h"
 
 #include <cstdint>
-#include <cstdlib>
-#include <string>
 
 namespace {
 
-void Check(bool condition) {
-    if (!condition)
-        std::abort();
-}
+using fuzz::Check;
 
 // Path-heavy alphabet: separators, dots, colons, spaces, letters, one unit
 // beyond ASCII; sometimes a long run to reach the 255-unit limits.
@@ -65,35 +60,18 @@ void CheckWalk(const vu::String& path) {
 }
 
 void EditPath(FuzzedDataProvider& in) {
+    using Setter = void (AF_CPath::*)(const WCHAR*);
+    static const Setter setters[] = {&AF_CPath::SetDrive, &AF_CPath::SetDir, &AF_CPath::SetDriveDir,
+                                     &AF_CPath::SetRoot,  &AF_CPath::SetExt, &AF_CPath::SetName,
+                                     &AF_CPath::SetPath};
     AF_CPath p(PathText(in).c_str());
     for (int i = 0; i < 6 && in.remaining_bytes() > 0; ++i) {
         const vu::String arg = PathText(in);
-        switch (in.ConsumeIntegralInRange(0, 7)) {
-        case 0:
-            p.SetDrive(arg.c_str());
-            break;
-        case 1:
-            p.SetDir(arg.c_str());
-            break;
-        case 2:
-            p.SetDriveDir(arg.c_str());
-            break;
-        case 3:
-            p.SetRoot(arg.c_str());
-            break;
-        case 4:
-            p.SetExt(arg.c_str());
-            break;
-        case 5:
-            p.SetName(arg.c_str());
-            break;
-        case 6:
+        const auto pick = in.ConsumeIntegralInRange<std::size_t>(0, std::size(setters));
+        if (pick < std::size(setters))
+            (p.*setters[pick])(arg.c_str());
+        else
             p = arg.c_str();
-            break;
-        default:
-            p.SetPath(arg.c_str());
-            break;
-        }
         Check(p.GetDrive().GetLength() <= 1);
         Check(p == AF_CPath(p));
         (void)AF_CPath::IsShareName(p);

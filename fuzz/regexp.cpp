@@ -6,6 +6,8 @@
 // match, found text differing from the text) is a finding.
 #include "text/RegExpression.h"
 
+#include "FuzzSupport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -27,10 +29,7 @@ vu::String Widen(const uint8_t* data, size_t size) {
     return s;
 }
 
-void Check(bool condition) {
-    if (!condition)
-        __builtin_trap();
-}
+using fuzz::Check;
 
 void CheckMatch(const VU_CRegExpression& re, const vu::String& text, int index) {
     if (index < 0) {

@@ -5,29 +5,23 @@
 // and that the one-pass replace-all equals one replacement at a time.
 #include "text/SearchableString.h"
 
-#include <fuzzer/FuzzedDataProvider.h>
+#include "FuzzSupport.h"
 
 #include <cstdint>
-#include <cstdlib>
-#include <string>
 
 namespace {
 
+using fuzz::Check;
+
 // Small alphabet so that searches hit: letters in both cases, delimiters,
 // regular-expression specials and a few characters beyond ASCII.
-constexpr WCHAR kAlphabet[] = VU_T("aAbB zZ,.-_()*+?|[]^$\\&\u00E4\u00C4\u212Ak\u03C3\u03A3\u0000");
+constexpr vu::StringView kAlphabet =
+    VU_T("aAbB zZ,.-_()*+?|[]^$\\&\u00E4\u00C4\u212Ak\u03C3\u03A3");
 constexpr int kMaxText = 2000;
 constexpr unsigned long long kStepLimit = 200000;
 
 vu::String TakeText(FuzzedDataProvider& in, int maxLength) {
-    const int length = in.ConsumeIntegralInRange<int>(0, maxLength);
-    vu::String s;
-    for (int i = 0; i < length && in.remaining_bytes() > 0; ++i) {
-        const WCHAR c = kAlphabet[in.ConsumeIntegralInRange<int>(0, std::size(kAlphabet) - 2)];
-        if (c) // the texts are NUL-terminated
-            s.push_back(c);
-    }
-    return s;
+    return fuzz::Text(in, kAlphabet, maxLength);
 }
 
 // Positions around and beyond the text, negative ones included.
@@ -44,11 +38,6 @@ public:
     }
 };
 
-void Check(bool ok) {
-    if (!ok)
-        std::abort();
-}
-
 bool MatchesAt(const CString& s, int at, const vu::String& find) {
     return at >= 0 && at + static_cast<int>(find.size()) <= s.GetLength() &&
            s.View().substr(at, find.size()) == find;
@@ -62,13 +51,13 @@ void CompareReplaceAll(const CString& text, int kind, const vu::String& find,
     OneAtATime slow(text);
     fast.SetRegularExpStepLimit(kStepLimit);
     slow.SetRegularExpStepLimit(kStepLimit);
-    const WCHAR *f = find.c_str(), *r = replacement.c_str();
-    const int a = kind == 0   ? fast.FindReplace(f, r, TRUE, FALSE)
-                  : kind == 1 ? fast.FindReplaceNoCase(f, r, TRUE, FALSE)
-                              : fast.FindReplaceRegularExp(f, r, TRUE);
-    const int b = kind == 0   ? slow.FindReplace(f, r, TRUE, FALSE)
-                  : kind == 1 ? slow.FindReplaceNoCase(f, r, TRUE, FALSE)
-                              : slow.FindReplaceRegularExp(f, r, TRUE);
+    const auto replaceAll = [&](VU_CSearchableString& s) {
+        const WCHAR *f = find.c_str(), *r = replacement.c_str();
+        return kind == 0   ? s.FindReplace(f, r, TRUE, FALSE)
+               : kind == 1 ? s.FindReplaceNoCase(f, r, TRUE, FALSE)
+                           : s.FindReplaceRegularExp(f, r, TRUE);
+    };
+    const int a = replaceAll(fast), b = replaceAll(slow);
     // A run ends at its first search that runs out of steps; the two runs
     // search different strings, so compare only runs that finished.
     if (fast.IsRegularExpStepLimitExceeded() || slow.IsRegularExpStepLimitExceeded())
@@ -92,6 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         const int i = TakeIndex(in, n);
         const int j = TakeIndex(in, n);
         int r = -1;
+        // clang-format off
         switch (in.ConsumeIntegralInRange<int>(0, 13)) {
         case 0: // exact searches find real occurrences
             r = s.Find(t.c_str(), i, flag);
@@ -114,40 +104,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             Check(s.ReverseFindNoCase(t.c_str(), i, flag) < n);
             Check(s.ReverseFindNoCase(ch, i, flag) < n);
             break;
-        case 3:
-            r = s.FindRegularExp(t.c_str(), i);
-            Check(r >= -1 && r <= n);
-            break;
-        case 4:
-            s.FindReplaceRegularExp(t.c_str(), u.c_str(), flag);
-            break;
-        case 5:
-            s.FindReplace(t.c_str(), u.c_str(), flag, FALSE);
-            break;
-        case 6:
-            s.FindReplaceNoCase(t.c_str(), u.c_str(), flag, FALSE);
-            break;
-        case 7:
-            s.InsertAt(i, t.c_str());
-            s.InsertAt(j, ch);
-            break;
-        case 8:
-            s.DeleteAt(i, j);
-            break;
-        case 9:
-            s.ReplaceAt(i, j, t.c_str());
-            break;
+        case 3: r = s.FindRegularExp(t.c_str(), i); Check(r >= -1 && r <= n); break;
+        case 4: s.FindReplaceRegularExp(t.c_str(), u.c_str(), flag); break;
+        case 5: s.FindReplace(t.c_str(), u.c_str(), flag, FALSE); break;
+        case 6: s.FindReplaceNoCase(t.c_str(), u.c_str(), flag, FALSE); break;
+        case 7: s.InsertAt(i, t.c_str()); s.InsertAt(j, ch); break;
+        case 8: s.DeleteAt(i, j); break;
+        case 9: s.ReplaceAt(i, j, t.c_str()); break;
         case 10:
             Check(s.GetFieldCount(t.c_str()) >= 1 && s.GetFieldCount(ch) >= 1);
             Check(s.GetField(t.c_str(), i).GetLength() <= n);
             Check(s.GetDelimitedField(t.c_str(), u.c_str(), j).GetLength() <= n);
             break;
-        case 11:
-            s.SetTokenDelimiters(t.c_str());
-            break;
-        case 12:
-            CompareReplaceAll(s, in.ConsumeIntegralInRange<int>(0, 2), t, u);
-            break;
+        case 11: s.SetTokenDelimiters(t.c_str()); break;
+        case 12: CompareReplaceAll(s, in.ConsumeIntegralInRange<int>(0, 2), t, u); break;
         default: {
             VU_CSearchableString copy(s);
             copy.FindRegularExp(nullptr, 0); // the copied pattern, if any
@@ -158,6 +128,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             break;
         }
         }
+        // clang-format on
         if (s.GetLength() > kMaxText)
             s.DeleteAt(kMaxText, -1);
     }

@@ -3,37 +3,23 @@
 // that taking the breaks out and putting them back gives the text back.
 #include "text/SearchableStringWithSoftLineBreaks.h"
 
-#include <fuzzer/FuzzedDataProvider.h>
+#include "FuzzSupport.h"
 
 #include <cstdint>
-#include <cstdlib>
-#include <string>
 
 namespace {
 
 using Soft = VU_CSearchableStringWithSoftLineBreaks;
-
-// Characters that matter here: breaks, blanks, delimiters, case pairs, and a
-// few that regular expressions treat specially.
-constexpr WCHAR kAlphabet[] = {
-    VU_T('a'),  VU_T('b'),  VU_T('A'), VU_T(' '), VU_T(' '), VU_T('\t'), VU_T('\r'),
-    VU_T('\n'), VU_T('\r'), VU_T('_'), VU_T(','), VU_T('('), VU_T(')'),  VU_T('.'),
-    VU_T('*'),  VU_T('+'),  VU_T('?'), VU_T('^'), VU_T('$'), VU_T('['),  VU_T(']'),
-    VU_T('|'),  VU_T('\\'), 0xE9,      0x130,     0};
+using fuzz::Check;
 
 constexpr int kMaxLength = 4096; // keeps one-replacement-at-a-time edits quick
 
+// Breaks, blanks, delimiters, case pairs, regular-expression specials; '~'
+// stands for a soft break typed into the text.
 vu::String Text(FuzzedDataProvider& in, std::size_t maxLength) {
     vu::String text;
-    const std::size_t length = in.ConsumeIntegralInRange<std::size_t>(0, maxLength);
-    for (std::size_t i = 0; i < length && in.remaining_bytes() > 0; ++i) {
-        const WCHAR c =
-            kAlphabet[in.ConsumeIntegralInRange<std::size_t>(0, std::size(kAlphabet) - 1)];
-        if (c == 0)
-            text += VU_T("\r\r\n"); // a soft break typed into the text
-        else
-            text.push_back(c);
-    }
+    for (WCHAR c : fuzz::Text(in, VU_T("abA  \t\r\n\r_,().*+?^$[]|\\\u00e9\u0130~"), maxLength))
+        text += c == VU_T('~') ? vu::String(VU_T("\r\r\n")) : vu::String(1, c);
     return text;
 }
 
@@ -41,18 +27,13 @@ int Position(FuzzedDataProvider& in, const Soft& s) {
     return in.ConsumeIntegralInRange<int>(-3, s.GetLength() + 3);
 }
 
-void Require(bool condition) {
-    if (!condition)
-        std::abort();
-}
-
 // Right after wrapping the breaks are in: out and back in is an identity.
 void CheckRoundTrip(Soft& s) {
     const vu::String wrapped = s.Str();
     const int breaks = s.RemoveSoftLineBreaks();
-    Require(s.WereSoftLineBreaksRemoved());
-    Require(s.ReInsertSoftLineBreaks() == breaks);
-    Require(s.Str() == wrapped);
+    Check(s.WereSoftLineBreaksRemoved());
+    Check(s.ReInsertSoftLineBreaks() == breaks);
+    Check(s.Str() == wrapped);
 }
 
 void Step(FuzzedDataProvider& in, Soft& s) {
@@ -60,20 +41,16 @@ void Step(FuzzedDataProvider& in, Soft& s) {
     const vu::String b = Text(in, 4);
     const WCHAR c = a.empty() ? VU_T('a') : a[0];
     const BOOL flag = in.ConsumeBool();
+    // clang-format off
     switch (in.ConsumeIntegralInRange(0, 12)) {
     case 0: {
         const int breaks = s.WordWrapText(in.ConsumeIntegralInRange(-3, 40));
-        Require(breaks == s.GetNumberOfSoftLineBreaks(s.GetLength() + 1));
+        Check(breaks == s.GetNumberOfSoftLineBreaks(s.GetLength() + 1));
         CheckRoundTrip(s);
         break;
     }
-    case 1:
-        s.RemoveSoftLineBreaks();
-        s.ReplaceSoftLineBreaksWith(CString(a));
-        break;
-    case 2:
-        s.ReInsertSoftLineBreaks();
-        break;
+    case 1: s.RemoveSoftLineBreaks(); s.ReplaceSoftLineBreaksWith(CString(a)); break;
+    case 2: s.ReInsertSoftLineBreaks(); break;
     case 3:
         s.SetSelection(Position(in, s), Position(in, s));
         s.ReplaceSelectionWith(CString(a));
@@ -89,22 +66,11 @@ void Step(FuzzedDataProvider& in, Soft& s) {
         s.ReverseFindNoCase(c, Position(in, s), flag);
         s.FindN(c, Position(in, s), Position(in, s), flag);
         break;
-    case 5:
-        s.FindRegularExp(a.c_str(), Position(in, s));
-        break;
-    case 6:
-        s.FindReplaceRegularExp(a.c_str(), b.c_str(), flag);
-        break;
-    case 7:
-        s.FindReplace(a.c_str(), b.c_str(), flag, in.ConsumeBool());
-        break;
-    case 8:
-        s.FindReplaceNoCase(a.c_str(), b.c_str(), flag, in.ConsumeBool());
-        break;
-    case 9:
-        s.InsertAt(Position(in, s), a.c_str());
-        s.InsertAt(Position(in, s), c);
-        break;
+    case 5: s.FindRegularExp(a.c_str(), Position(in, s)); break;
+    case 6: s.FindReplaceRegularExp(a.c_str(), b.c_str(), flag); break;
+    case 7: s.FindReplace(a.c_str(), b.c_str(), flag, in.ConsumeBool()); break;
+    case 8: s.FindReplaceNoCase(a.c_str(), b.c_str(), flag, in.ConsumeBool()); break;
+    case 9: s.InsertAt(Position(in, s), a.c_str()); s.InsertAt(Position(in, s), c); break;
     case 10:
         s.DeleteAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8));
         s.ReplaceAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8), b.c_str());
@@ -116,8 +82,8 @@ void Step(FuzzedDataProvider& in, Soft& s) {
         break;
     default: {
         Soft copy(s);
-        Require(copy.Str() == s.Str() &&
-                copy.WereSoftLineBreaksRemoved() == s.WereSoftLineBreaksRemoved());
+        Check(copy.Str() == s.Str() &&
+              copy.WereSoftLineBreaksRemoved() == s.WereSoftLineBreaksRemoved());
         if (flag)
             s = copy;
         else
@@ -125,6 +91,7 @@ void Step(FuzzedDataProvider& in, Soft& s) {
         break;
     }
     }
+    // clang-format on
     if (s.GetLength() > kMaxLength)
         s = CString(s.View().substr(0, 64));
 }

@@ -4,11 +4,9 @@
 // come back when their entities are read, and every open element is closed.
 #include "text/XmlWriter.h"
 
-#include <fuzzer/FuzzedDataProvider.h>
+#include "FuzzSupport.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 #include <string>
 #include <vector>
@@ -27,10 +25,7 @@ AF_GString Text(FuzzedDataProvider& in) {
     return s;
 }
 
-void Check(bool ok) {
-    if (!ok)
-        abort();
-}
+using fuzz::Check;
 
 bool ModelValidName(const vu::String& name) {
     if (name.empty())
@@ -45,11 +40,11 @@ bool ModelValidName(const vu::String& name) {
 }
 
 vu::String Unescape(vu::String s) {
-    static const std::pair<vu::String, WCHAR> entities[] = {{VU_T("&lt;"), VU_T('<')},
-                                                            {VU_T("&gt;"), VU_T('>')},
-                                                            {VU_T("&apos;"), VU_T('\'')},
-                                                            {VU_T("&quot;"), VU_T('"')},
-                                                            {VU_T("&amp;"), VU_T('&')}};
+    // clang-format off
+    static const std::pair<vu::String, WCHAR> entities[] = {
+        {VU_T("&lt;"), VU_T('<')}, {VU_T("&gt;"), VU_T('>')}, {VU_T("&apos;"), VU_T('\'')},
+        {VU_T("&quot;"), VU_T('"')}, {VU_T("&amp;"), VU_T('&')}};
+    // clang-format on
     vu::String out;
     for (size_t i = 0; i < s.size();) {
         bool matched = false;

@@ -23,6 +23,9 @@ std::string Ascii(const CString& s) {
 std::string Ascii(const vu::String& s) {
     return Ascii(vu::StringView(s));
 }
+std::string Ascii(const WCHAR* s) {
+    return Ascii(vu::StringView(s));
+}
 
 // Drive|Dir|Root|Ext|FullPath|Machine|Share
 std::string Fields(const AF_CPath& p) {
@@ -69,6 +72,9 @@ TEST(Path, DerivedNamesAndResetting) {
     EXPECT_EQ(Ascii(AF_CPath(VU_T("a\\f")).GetDriveDir()), "a");
     EXPECT_EQ(Ascii(AF_CPath(VU_T("C:\\a\\name")).GetName()), "name.");
     EXPECT_EQ(Ascii(AF_CPath().GetName()), ".");
+    vu::String part = VU_T("stale");
+    EXPECT_FALSE(vu::SplitPath(nullptr, &part, &part, &part, &part));
+    EXPECT_EQ(part, VU_T(""));
 
     AF_CPath p(VU_T("\\\\m\\s\\f.txt"));
     p.SetPath(nullptr);
@@ -172,22 +178,61 @@ TEST(Path, RecognisesMachineAndShareNames) {
     }
 }
 
-// The splitter keeps parts of any length whole (the runtime's fixed
-// buffers would empty them all).
-TEST(SplitPath, KeepsLongPartsWhole) {
-    vu::String drive, dir, fname, ext;
-    const vu::String dir300 = vu::String(VU_T("\\")).append(298, VU_T('d')) + VU_T("/");
-    const vu::String name = vu::String(256, VU_T('n'));
-    const vu::String ext300 = vu::String(VU_T(".")).append(299, VU_T('e'));
-    EXPECT_TRUE(
-        vu::SplitPath((VU_T("C:") + dir300 + name + ext300).c_str(), &drive, &dir, &fname, &ext));
-    EXPECT_EQ(drive, VU_T("C:"));
-    EXPECT_EQ(dir, dir300);
-    EXPECT_EQ(fname, name);
-    EXPECT_EQ(ext, ext300);
-    EXPECT_FALSE(vu::SplitPath(nullptr, &drive, &dir, &fname, &ext));
-    EXPECT_EQ(drive + dir + fname + ext, VU_T(""));
+// ---- The prefix walk ---------------------------------------------------------
+
+// Every step of a walk as "item" or "item!" when Done after it, up to the
+// step that ends it: the first item, then each ++.
+std::string Walk(AF_CPathIterator& it) {
+    std::string out = Ascii(vu::StringView(it.First()));
+    for (int guard = 0; !it.Done() && guard < 300; ++guard) {
+        out += ' ';
+        out += Ascii(it++);
+    }
+    return out + (it.Done() ? "!" : "");
 }
+
+TEST(PathIterator, WalksGrowingPrefixes) {
+    struct Row {
+        vu::String path;
+        std::string walk;
+    } rows[] = {
+        // clang-format off
+        {VU_T("c:\\a\\b"), "c:\\ c:\\a c:\\a\\b !"}, {VU_T("c:\\a\\b\\"), "c:\\ c:\\a c:\\a\\b !"},
+        {VU_T("c:\\"), "c:\\!"}, {VU_T("c:"), "c:\\!"},
+        {VU_T("c:\\a\\\\b"), "c:\\ c:\\a c:\\a\\ c:\\a\\\\b !"},
+        {VU_T("\\\\srv\\share\\dir"), "\\\\srv\\ \\\\srv\\share \\\\srv\\share\\dir !"},
+        {VU_T("\\\\srv"), "\\\\srv\\!"}, {VU_T("ab\\cd"), "ab\\ ab\\cd !"}, {VU_T("a"), "!"},
+        {VU_T(""), "!"},
+        {VU_T("/usr/lib"), "/us /usr/lib !"}, // only '\\' separates, on every platform
+        {VU_T("c:/a"), "c:/ c:/a !"},
+        // clang-format on
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.path.begin(), row.path.end()));
+        AF_CPathIterator it(row.path.c_str());
+        EXPECT_EQ(Walk(it), row.walk);
+        EXPECT_EQ(Ascii(it++), ""); // stays empty once done
+        EXPECT_TRUE(it.Done());
+    }
+}
+
+// Every path shorter than 261 units is walked, with or without its
+// trailing separator.
+TEST(PathIterator, WalksEveryPathShorterThan261Units) {
+    const vu::String dir = VU_T("c:\\") + vu::String(256, VU_T('x')); // 259 units
+    for (const vu::String& path : {dir + VU_T("\\"), dir + VU_T("y")}) {
+        AF_CPathIterator it(path.c_str());
+        EXPECT_FALSE(it.Done());
+        EXPECT_EQ(vu::String(it++), path.back() == VU_T('y') ? path : dir);
+    }
+    AF_CPathIterator tooLong((dir + VU_T("yz")).c_str());
+    EXPECT_TRUE(tooLong.Done());
+    EXPECT_EQ(Ascii(tooLong.Current()), "");
+    AF_CPathIterator none(nullptr);
+    EXPECT_TRUE(none.Done());
+}
+
+// ---- Generated paths against the Windows build -------------------------------
 
 // FNV-1a over the units of s.
 void Digest(std::uint64_t& h, vu::StringView s) {

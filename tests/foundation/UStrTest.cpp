@@ -30,28 +30,16 @@ TEST(UStr, ConvertsLazilyAndKeepsTheCallersString) {
     EXPECT_EQ(Narrow(fromWide), "Routine");
 }
 
-// The Windows runtime's "C" locale: bytes and units 0-255 map to each
-// other; a unit above 0xFF ends the narrow text (the Windows suite compares
-// every value with the runtime).
+// The Windows runtime's "C" locale: bytes and units 0-255 map to each other,
+// a unit above 0xFF ends the narrow text; the Windows suite compares every
+// value with the runtime, this pins the rule in the native build.
 TEST(UStr, ConvertsAsTheWindowsRuntimeInItsDefaultLocale) {
     WCHAR* w = AF_CUStr::uxdup("caf\xe9!\x80\xff");
     EXPECT_EQ(Wide(w), VU_T("caf\u00e9!\u0080\u00ff"));
     std::free(w);
-    struct Row {
-        const WCHAR* wide;
-        const char* narrow;
-    } rows[] = {
-        {VU_T("caf\u00e9!"), "caf\xe9!"},
-        {VU_T("ab\u0100cd"), "ab"},
-        {VU_T("ab\u4e2d"), "ab"},
-        {VU_T("\u20ac"), ""},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.narrow);
-        char* n = AF_CUStr::uxdup(row.wide);
-        EXPECT_EQ(Narrow(n), row.narrow);
-        std::free(n);
-    }
+    char* n = AF_CUStr::uxdup(VU_T("ab\u00e9\u0100cd"));
+    EXPECT_EQ(Narrow(n), "ab\xe9");
+    std::free(n);
     EXPECT_EQ(AF_CUStr::uxdup(static_cast<const char*>(nullptr)), nullptr);
     EXPECT_EQ(AF_CUStr::uxdup(static_cast<const WCHAR*>(nullptr)), nullptr);
     EXPECT_EQ(static_cast<const WCHAR*>(AF_CUStr(static_cast<const char*>(nullptr))), nullptr);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstring>
+#include <cwchar>
 #include <string>
 #include <vector>
 
@@ -27,29 +29,34 @@ void Check(const std::vector<Row>& rows) {
     }
 }
 
-TEST(CStringFormat, IntegersWithFlagsWidthAndPrecision) {
-    Check({
-        {"i", Fmt(VU_T("%i"), -7), VU_T("-7")},
-        {"width", Fmt(VU_T("[%5d]"), 42), VU_T("[   42]")},
-        {"left", Fmt(VU_T("[%-5d]"), 42), VU_T("[42   ]")},
-        {"zero pad after sign", Fmt(VU_T("%05d"), -42), VU_T("-0042")},
-        {"zero ignored when left", Fmt(VU_T("[%-05d]"), 7), VU_T("[7    ]")},
-        {"plus", Fmt(VU_T("%+d"), 5), VU_T("+5")},
-        {"space", Fmt(VU_T("% d"), 5), VU_T(" 5")},
-        {"precision", Fmt(VU_T("%.3d"), 7), VU_T("007")},
-        {"zero ignored with precision", Fmt(VU_T("[%08.3d]"), 7), VU_T("[     007]")},
-        {"zero precision of zero", Fmt(VU_T("[%.0d]"), 0), VU_T("[]")},
-        {"int min", Fmt(VU_T("%d"), INT_MIN), VU_T("-2147483648")},
-        {"unsigned of -1", Fmt(VU_T("%u"), -1), VU_T("4294967295")},
-        {"hex", Fmt(VU_T("%x|%X"), 255, 255), VU_T("ff|FF")},
-        {"hex prefix", Fmt(VU_T("%#x|%#X"), 255, 255), VU_T("0xff|0XFF")},
-        {"hex prefix not on zero", Fmt(VU_T("%#x"), 0), VU_T("0")},
-        {"zero padded hex prefix", Fmt(VU_T("%#06x"), 10), VU_T("0x000a")},
-        {"octal", Fmt(VU_T("%o|%#o"), 8, 8), VU_T("10|010")},
-        {"width from argument", Fmt(VU_T("[%*d]"), 4, 1), VU_T("[   1]")},
-        {"negative width from argument", Fmt(VU_T("[%*d]"), -4, 1), VU_T("[1   ]")},
-        {"precision from argument", Fmt(VU_T("%.*d"), 3, 1), VU_T("001")},
-    });
+// Flags, widths and precisions of the standard conversions against the C
+// runtime's own wide printf (the Windows runtime's under Wine).
+TEST(CStringFormat, StandardConversionsAgreeWithTheCRuntime) {
+    const char* formats[] = {"%d",    "%i",      "[%5d]",  "[%-5d]",   "%05d",   "[%-05d]",
+                             "%+d",   "% d",     "%.3d",   "[%08.3d]", "[%.0d]", "%u",
+                             "%x|%X", "%#x|%#X", "%#06x",  "%o|%#o",   "[%*d]",  "%.*d",
+                             "%.2f",  "[%8.3f]", "%08.2f", "%g",       "%f",     "%+.1f"};
+    for (const char* narrow : formats) {
+        const std::wstring wide(narrow, narrow + std::strlen(narrow));
+        const vu::String format(wide.begin(), wide.end());
+        const bool real = wide.find_first_of(L"fge") != std::wstring::npos;
+        for (int v : {0, 7, -42, 255, INT_MIN}) {
+            if (real && v == INT_MIN)
+                continue; // exponents are spelt differently by the two runtimes
+            SCOPED_TRACE(std::string(narrow) + " of " + std::to_string(v));
+            wchar_t expected[128];
+            const int n = real ? std::swprintf(expected, 128, wide.c_str(), v * 1.37, v * 1.37)
+                          : wide.find('*') != std::wstring::npos
+                              ? std::swprintf(expected, 128, wide.c_str(), v % 9, v)
+                              : std::swprintf(expected, 128, wide.c_str(), v, v);
+            ASSERT_GE(n, 0);
+            const vu::String got = real ? Fmt(format.c_str(), v * 1.37, v * 1.37)
+                                   : wide.find('*') != std::wstring::npos
+                                       ? Fmt(format.c_str(), v % 9, v)
+                                       : Fmt(format.c_str(), v, v);
+            EXPECT_EQ(std::wstring(got.begin(), got.end()), std::wstring(expected));
+        }
+    }
 }
 
 TEST(CStringFormat, LengthModifiersReadTheNamedType) {
@@ -102,16 +109,6 @@ TEST(CStringFormat, PercentUnknownAndDanglingConversions) {
     CString s(VU_T("old"));
     s.Format(nullptr);
     EXPECT_TRUE(s.IsEmpty());
-}
-
-TEST(CStringFormat, FloatingPointFollowsTheCRuntime) {
-    Check({
-        {"fixed", Fmt(VU_T("%.2f"), 3.14159), VU_T("3.14")},
-        {"width", Fmt(VU_T("[%8.3f]"), -2.5), VU_T("[  -2.500]")},
-        {"zero pad", Fmt(VU_T("%08.2f"), 1.5), VU_T("00001.50")},
-        {"general", Fmt(VU_T("%g"), 0.0001), VU_T("0.0001")},
-        {"default precision", Fmt(VU_T("%f"), 1.0), VU_T("1.000000")},
-    });
 }
 
 struct DerivedString : vu::String {

@@ -81,23 +81,17 @@ TEST(CString, FindReturnsMinusOneWhenAbsentOrStartIsBeyondTheEnd) {
     const CString s(VU_T("abcabc"));
     Check<int>({
         {"char from 0", s.Find(VU_T('c')), 2},
-        {"char at last", s.Find(VU_T('c'), 5), 5},
         {"char at end", s.Find(VU_T('c'), 6), -1},
         {"char negative start", s.Find(VU_T('a'), -5), 0},
         {"char absent", s.Find(VU_T('z')), -1},
         {"text", s.Find(VU_T("bc")), 1},
-        {"text from 2", s.Find(VU_T("bc"), 2), 4},
         {"text overlapping end", s.Find(VU_T("bca"), 3), -1},
         {"empty text at end", s.Find(VU_T(""), 6), 6},
         {"empty text beyond end", s.Find(VU_T(""), 7), -1},
         {"null text", s.Find(static_cast<const WCHAR*>(nullptr)), -1},
-        {"text longer than string", s.Find(VU_T("abcabcabc")), -1},
         {"reverse", s.ReverseFind(VU_T('a')), 3},
-        {"reverse absent", s.ReverseFind(VU_T('q')), -1},
         {"one of", s.FindOneOf(VU_T("xc")), 2},
-        {"one of empty set", s.FindOneOf(VU_T("")), -1},
         {"one of null set", s.FindOneOf(nullptr), -1},
-        {"empty string", CString().Find(VU_T('a')), -1},
     });
 }
 
@@ -106,23 +100,16 @@ TEST(CString, FindReturnsMinusOneWhenAbsentOrStartIsBeyondTheEnd) {
 TEST(CString, ExtractionClampsItsArguments) {
     const CString s(VU_T("hello"));
     Check<Text>({
-        {"mid inside", S(s.Mid(1, 3)), VU_T("ell")},
         {"mid negative first", S(s.Mid(-2, 3)), VU_T("hel")},
         {"mid count past end", S(s.Mid(3, 100)), VU_T("lo")},
         {"mid first at end", S(s.Mid(5)), VU_T("")},
         {"mid first past end", S(s.Mid(10)), VU_T("")},
         {"mid negative count", S(s.Mid(2, -1)), VU_T("")},
         {"left negative", S(s.Left(-1)), VU_T("")},
-        {"left too long", S(s.Left(99)), VU_T("hello")},
-        {"left", S(s.Left(2)), VU_T("he")},
-        {"right", S(s.Right(2)), VU_T("lo")},
         {"right too long", S(s.Right(99)), VU_T("hello")},
         {"right negative", S(s.Right(-3)), VU_T("")},
         {"span including", S(CString(VU_T("abcxyz")).SpanIncluding(VU_T("cba"))), VU_T("abc")},
-        {"span including none", S(CString(VU_T("xyz")).SpanIncluding(VU_T("abc"))), VU_T("")},
         {"span excluding", S(CString(VU_T("key,value")).SpanExcluding(VU_T(",;"))), VU_T("key")},
-        {"span excluding all", S(CString(VU_T("novalue")).SpanExcluding(VU_T(","))),
-         VU_T("novalue")},
     });
 }
 
@@ -180,10 +167,8 @@ TEST(CString, ReplaceScansLeftToRightWithoutOverlapAndCounts) {
         {"odd run", VU_T("aaa"), VU_T("aa"), VU_T("b"), 1, VU_T("ba")},
         {"empty pattern", VU_T("abc"), VU_T(""), VU_T("x"), 0, VU_T("abc")},
         {"null pattern", VU_T("abc"), nullptr, VU_T("x"), 0, VU_T("abc")},
-        {"to empty", VU_T("banana"), VU_T("a"), VU_T(""), 3, VU_T("bnn")},
         {"to null", VU_T("banana"), VU_T("an"), nullptr, 2, VU_T("ba")},
         {"growing replacement", VU_T("abab"), VU_T("ab"), VU_T("abab"), 2, VU_T("abababab")},
-        {"absent", VU_T("abc"), VU_T("x"), VU_T("y"), 0, VU_T("abc")},
         {"whole string", VU_T("abc"), VU_T("abc"), VU_T(""), 1, VU_T("")},
     };
     for (const Row& r : rows) {
@@ -207,14 +192,11 @@ TEST(CString, ReplaceScansLeftToRightWithoutOverlapAndCounts) {
 TEST(CString, TrimRemovesTheGivenSetFromTheEndsOnly) {
     Check<Text>({
         {"white space", S(CString(VU_T(" \t\r\n\v\fx y \f")).Trim()), VU_T("x y")},
-        {"all white", S(CString(VU_T(" \t ")).Trim()), VU_T("")},
         {"no-break space kept", S(CString(VU_T("\u00A0x ")).Trim()), VU_T("\u00A0x")},
         {"char", S(CString(VU_T("xxaxx")).Trim(VU_T('x'))), VU_T("a")},
         {"set", S(CString(VU_T("abcba")).Trim(VU_T("ab"))), VU_T("c")},
         {"left set", S(CString(VU_T("abcba")).TrimLeft(VU_T("ab"))), VU_T("cba")},
         {"right set", S(CString(VU_T("abcba")).TrimRight(VU_T("ab"))), VU_T("abc")},
-        {"left white", S(CString(VU_T("  a  ")).TrimLeft()), VU_T("a  ")},
-        {"right white", S(CString(VU_T("  a  ")).TrimRight()), VU_T("  a")},
         {"empty set", S(CString(VU_T(" a ")).Trim(VU_T(""))), VU_T(" a ")},
         {"null set", S(CString(VU_T(" a ")).Trim(static_cast<const WCHAR*>(nullptr))), VU_T(" a ")},
     });

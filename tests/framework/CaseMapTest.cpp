@@ -7,15 +7,6 @@
 
 namespace {
 
-TEST(CaseMap, AsciiMatchesTheCRuntimeInTheCLocale) {
-    // No test calls setlocale, so the C runtime is in the "C" locale.
-    for (int c = 0; c < 0x80; ++c) {
-        SCOPED_TRACE(c);
-        EXPECT_EQ(vu::ToLower(static_cast<WCHAR>(c)), std::tolower(c));
-        EXPECT_EQ(vu::ToUpper(static_cast<WCHAR>(c)), std::toupper(c));
-    }
-}
-
 TEST(CaseMap, CompareNoCaseOrdersByLoweredUnits) {
     struct Row {
         const char* name;
@@ -26,10 +17,6 @@ TEST(CaseMap, CompareNoCaseOrdersByLoweredUnits) {
         {"prefix shorter first", VU_T("ab"), VU_T("ABC"), -1},
         {"underscore before letters", VU_T("_"), VU_T("a"), -1},
         {"bracket after lowered Z", VU_T("["), VU_T("Z"), -1},
-        {"dotted I equals i", VU_T("\u0130"), VU_T("i"), 0},
-        {"dotless i is not i", VU_T("\u0131"), VU_T("I"), 1},
-        {"sharp s is not ss", VU_T("stra\u00DFe"), VU_T("STRASSE"), 1},
-        {"final sigma is not sigma", VU_T("\u03C2"), VU_T("\u03A3"), -1},
         {"empty", VU_T(""), VU_T(""), 0},
         {"empty first", VU_T(""), VU_T("a"), -1},
     };

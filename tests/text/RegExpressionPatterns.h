@@ -29,6 +29,20 @@ inline std::string Show(vu::StringView s) {
     return out;
 }
 
+// Empty when `found` and every group agree with the expected index and
+// groups (start, end; -1 when unset), else what differs first.
+template <class Re, class Start, class End>
+std::string Differences(const Re& re, int found, int expected, Start start, End end) {
+    if (found != expected)
+        return "index " + std::to_string(found) + " expected " + std::to_string(expected);
+    for (int n = 0; n < 10 && expected >= 0; ++n)
+        if (re.GetGroupStart(n) != start(n) || re.GetGroupEnd(n) != end(n))
+            return "group " + std::to_string(n) + " (" + std::to_string(re.GetGroupStart(n)) + "," +
+                   std::to_string(re.GetGroupEnd(n)) + ") expected (" + std::to_string(start(n)) +
+                   "," + std::to_string(end(n)) + ")";
+    return {};
+}
+
 } // namespace RegExpressionTestSupport
 
 class RegExpressionPatternGenerator {

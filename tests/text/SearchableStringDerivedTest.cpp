@@ -1,7 +1,6 @@
 // Searchable string seen from derived classes: which virtual operation each
-// operation goes through, every replacement reaching an overridden ReplaceAt,
-// and the one-pass replace-all giving the same text as one replacement at a
-// time.
+// operation goes through, and the one-pass replace-all giving the same text
+// and count as one replacement at a time through an overridden ReplaceAt.
 #include "text/SearchableString.h"
 
 #include <gtest/gtest.h>
@@ -42,15 +41,8 @@ public:
     using S::ReverseFindNoCase;
     using S::S;
 
-    std::string replacements; // "(index,count,text)" per call
     std::vector<std::string> calls;
 
-    S& ReplaceAt(int index, int count, const WCHAR* text) override {
-        replacements += '(';
-        replacements += std::to_string(index) + ',' + std::to_string(count) + ',';
-        replacements += Show(text ? text : VU_T("")) + ')';
-        return S::ReplaceAt(index, count, text);
-    }
     S& InsertAt(int index, const WCHAR* text) override {
         calls.push_back("InsertAt(" + std::to_string(index) + "," + Show(text) + ")");
         return S::InsertAt(index, text);
@@ -109,36 +101,6 @@ TEST(SearchableStringDerived, CharacterFormsCallTheTextFormsThroughTheTable) {
     const std::vector<std::string> expected = {"InsertAt(1,z)", "ReverseFindNoCase(x,-1)",
                                                "GetFieldCount(x)", "Find(x,0)", "Find(X,0)"};
     EXPECT_EQ(r.calls, expected);
-}
-
-TEST(SearchableStringDerived, EveryReplacementGoesThroughReplaceAt) {
-    const struct {
-        const char* name;
-        Kind kind;
-        const WCHAR *text, *find, *by;
-        BOOL all;
-        int count;
-        std::string replacements, result;
-    } rows[] = {
-        {"exact, all", Exact, VU_T("aba"), VU_T("a"), VU_T("aa"), TRUE, 2, "(0,1,aa)(3,1,aa)",
-         "aabaa"},
-        {"exact, first", Exact, VU_T("aba"), VU_T("a"), VU_T("aa"), FALSE, 1, "(0,1,aa)", "aaba"},
-        {"no case, shifts", NoCase, VU_T("aAa"), VU_T("A"), VU_T("xy"), TRUE, 3,
-         "(0,1,xy)(2,1,xy)(4,1,xy)", "xyxyxy"},
-        {"no case, shrinking", NoCase, VU_T("ABcAB"), VU_T("ab"), VU_T(""), TRUE, 2, "(0,2,)(1,2,)",
-         "c"},
-        {"expression, literal", RegExp, VU_T("abbcb"), VU_T("b+"), VU_T("&"), TRUE, 2,
-         "(1,2,&)(3,1,&)", "a&c&"},
-        {"expression, empty matches", RegExp, VU_T("ab"), VU_T("x*"), VU_T("-"), TRUE, 3,
-         "(0,0,-)(2,0,-)(4,0,-)", "-a-b-"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        Recorder r(row.text);
-        EXPECT_EQ(Replace(r, row.kind, row.find, row.by, row.all), row.count);
-        EXPECT_EQ(r.replacements, row.replacements);
-        EXPECT_EQ(Show(r.View()), row.result);
-    }
 }
 
 // ---- One pass against one replacement at a time ------------------------------

@@ -34,29 +34,6 @@ TEST(LibraryTest, InstanceHandleIsTheDllsModuleSearchedAfterTheHost) {
     EXPECT_EQ(modules[1], dll);
 }
 
-// Ids 2002 to 2017 in turn, '|' between them; an empty text means no string,
-// as for 1 and 65535.
-TEST(LibraryTest, StringTableThroughTheChain) {
-    const std::wstring texts = L"Fatal Error: |\nApplication will terminate.|Condition:|||OK|"
-                               L"Cancel|Help|Yes|No|Close|Retry|Abort|Ignore|Unknown||";
-    auto check = [](UINT id, const std::wstring& expected) {
-        SCOPED_TRACE(id);
-        CString text(L"stale");
-        EXPECT_EQ(AfxLoadString(id, text), !expected.empty());
-        EXPECT_EQ(Str(text), expected);
-        wchar_t buffer[64] = {}; // the same text straight from the library's module
-        int length = LoadStringW(VuGetInstanceHandle(), id, buffer, 64);
-        EXPECT_EQ(std::wstring(buffer, length), expected);
-    };
-    UINT id = 2002;
-    for (std::size_t start = 0, bar; (bar = texts.find(L'|', start)) != std::wstring::npos;
-         start = bar + 1)
-        check(id++, texts.substr(start, bar - start));
-    EXPECT_EQ(id, 2018u);
-    check(1, L"");
-    check(65535, L"");
-}
-
 TEST(LibraryTest, TraceDumpIsMadeOnceAndWritesToTheTempFile) {
     CDumpContext* dump = VuGetTraceDump();
     ASSERT_NE(dump, nullptr);

@@ -185,26 +185,6 @@ TEST_F(MessagePumpTest, WaitForMessageTimesOut) {
 
 // ---- trace description ---------------------------------------------------------
 
-TEST(MessageTraceTest, MessageNames) {
-    struct Row {
-        UINT message;
-        const wchar_t* expected;
-    };
-    const Row rows[] = {
-        {15, L"0x0000000f - WM_PAINT"},
-        {275, L"0x00000113 - WM_TIMER"},
-        {512, L"0x00000200 - WM_MOUSEFIRST or WM_MOUSEMOVE"},
-        {1186, L"0x000004a2 - CO_NOTIFICATION - WM_USER+128+34 - WM_AF_NOTIF_FIRST+34"},
-        {1192, L"0x000004a8 - WM_DW_RUNGNOTIFWINDOWMESSAGE - what?"},
-        {16, L"0x00000010 - <unknown>"},
-        {0xC123, L"0x0000c123 - <unknown>"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.message);
-        EXPECT_EQ(S(VuMessageName(row.message)), row.expected);
-    }
-}
-
 TEST(MessageTraceTest, FullDescriptionSameAndWindowText) {
     VuResetMessageTrace();
     MSG msg{};

@@ -10,8 +10,8 @@
 
 #include <commctrl.h>
 
-#include "foundation/win/MessageFilter.h"
 #include "foundation/win/ChildReflector.h"
+#include "foundation/win/MessageFilter.h"
 #include "framework/win/DC.h"
 #include "framework/win/ListBox.h"
 #include "support/TestWindow.h"

@@ -20,6 +20,7 @@
 
 namespace {
 
+using RegExpressionTestSupport::Differences;
 using RegExpressionTestSupport::Show;
 
 void AppendCodeUnit(vu::String& out, WCHAR c) {
@@ -166,20 +167,11 @@ TEST(RegExpressionPcre2, AgreesOnGeneratedPatterns) {
             const vu::String text = gen.Text(14);
             std::pair<int, int> expected[10];
             const int rc = oracle.Match(text, expected);
-            const int found = re.RegFind(text.c_str());
             ++compared;
-            std::string diff;
-            if (found != (rc > 0 ? expected[0].first : -1))
-                diff = "index " + std::to_string(found) + ", PCRE2 " +
-                       std::to_string(rc > 0 ? expected[0].first : -1);
-            for (int n = 0; n < 10 && rc > 0 && diff.empty(); ++n)
-                if (re.GetGroupStart(n) != expected[n].first ||
-                    re.GetGroupEnd(n) != expected[n].second)
-                    diff = "group " + std::to_string(n) + " (" +
-                           std::to_string(re.GetGroupStart(n)) + "," +
-                           std::to_string(re.GetGroupEnd(n)) + "), PCRE2 (" +
-                           std::to_string(expected[n].first) + "," +
-                           std::to_string(expected[n].second) + ")";
+            std::string diff = Differences(
+                re, re.RegFind(text.c_str()), rc > 0 ? expected[0].first : -1,
+                [&](int n) { return expected[n].first; },
+                [&](int n) { return expected[n].second; });
             if (rc > 0 && diff.empty()) {
                 std::unique_ptr<WCHAR[]> replaced(re.GetReplaceString(templ.c_str()));
                 const vu::String want = Expand(text, expected, templ);

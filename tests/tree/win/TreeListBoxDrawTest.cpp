@@ -223,20 +223,5 @@ TEST_F(TreeListTest, RowSearchesAskOneQueryPerRow) {
     SetWindowLongPtrW(Hwnd(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(GetPropW(Hwnd(), L"next")));
 }
 
-TEST(TreeListToolTip, TheControlHasItsToolTipWindow) {
-    ParentWindow parent;
-    VU_CTreeListBox list;
-    ASSERT_TRUE(CreateList(list, parent));
-    // The tool tip is a top-level window of this thread.
-    HWND tip = FindWindowExW(nullptr, nullptr, TOOLTIPS_CLASSW, nullptr);
-    while (tip != nullptr && GetWindowThreadProcessId(tip, nullptr) != GetCurrentThreadId())
-        tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr);
-    ASSERT_NE(nullptr, tip);
-    EXPECT_EQ(1, SendMessageW(tip, TTM_GETTOOLCOUNT, 0, 0));
-    EXPECT_EQ(200, SendMessageW(tip, TTM_GETDELAYTIME, TTDT_INITIAL, 0));
-    EXPECT_EQ(32767, SendMessageW(tip, TTM_GETDELAYTIME, TTDT_AUTOPOP, 0));
-    EXPECT_EQ(32767, SendMessageW(tip, TTM_GETMAXTIPWIDTH, 0, 0));
-}
-
 } // namespace
 } // namespace treetest

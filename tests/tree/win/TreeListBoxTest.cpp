@@ -107,28 +107,6 @@ TEST_F(TreeListTest, InsertItemUnderAParentUsesTheParentsRowPlusIndex) {
     EXPECT_EQ(-1, list->InsertItemByIndex(S(L"W"), 6, 6, 0, 99, 0)) << "a row without node";
 }
 
-TEST_F(TreeListTest, ExpandShowsOnlyChildrenAndCollapseRemovesAllShownDescendants) {
-    BuildSample();
-    list->Expand(2); // C, a leaf
-    list->Expand(-1);
-    list->Expand(50);
-    list->Collapse(1); // B, collapsed
-    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows()) << "rows that cannot change are ignored";
-    list->ExpandThisAndParent(list->FindNode(4)); // A1b
-    EXPECT_EQ((RowList{L"A", L"A1", L"A1a", L"A1b", L"A2", L"B", L"C"}), Rows());
-    list->Collapse(0);
-    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
-    EXPECT_EQ(0, list->FindNode(2)->IsExpanded()) << "A1's flag cleared with its row";
-    list->Expand(0);
-    EXPECT_EQ((RowList{L"A", L"A1", L"A2", L"B", L"C"}), Rows());
-    list->Expand(1);
-    list->Expand(5); // B
-    list->CollapseAllBranches();
-    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows());
-    for (int handle = 1; handle <= 8; ++handle)
-        EXPECT_EQ(0, list->FindNode(handle)->IsExpanded()) << "handle " << handle;
-}
-
 TEST_F(TreeListTest, CollapseMovesASelectionStrictlyInsideTheBranchToTheNode) {
     BuildSample();
     list->Expand(0);
@@ -151,23 +129,16 @@ TEST_F(TreeListTest, CollapseMovesASelectionStrictlyInsideTheBranchToTheNode) {
     }
 }
 
-TEST_F(TreeListTest, DeleteItemByIndexRemovesTheSubtreeAndItsRows) {
+// Which rows deletions and expansions leave is checked by the random test.
+TEST_F(TreeListTest, DeletionGoesByRowAndResetStartsHandlesAgain) {
     BuildSample();
-    list->Expand(0);
-    list->Expand(1);
-    EXPECT_TRUE(list->DeleteItemByIndex(1)); // A1 with A1a, A1b
-    EXPECT_EQ(nullptr, list->FindNode(3));
-    list->Expand(2);                         // B
-    EXPECT_TRUE(list->DeleteItemByIndex(3)); // B1, B's only child
-    EXPECT_EQ((RowList{L"A", L"A2", L"B", L"C"}), Rows());
-    EXPECT_EQ(0, list->FindNode(6)->IsExpanded()) << "a node left without children is collapsed";
-
-    EXPECT_FALSE(list->DeleteItemByIndex(4));
+    EXPECT_FALSE(list->DeleteItemByIndex(3));
     EXPECT_FALSE(list->DeleteItemByIndex(-1));
     EXPECT_FALSE(list->DeleteItem(6)) << "deletion goes by row";
-
+    list->Expand(-1);
+    list->Expand(50);
+    EXPECT_EQ((RowList{L"A", L"B", L"C"}), Rows()) << "rows that cannot change are ignored";
     EXPECT_TRUE(list->ResetTreeContents());
-    EXPECT_EQ(0, list->GetRowCount());
     EXPECT_EQ(0, list->GetNodeCount());
     int handle = 0;
     list->AddItem(S(L"new"), 0, 0, 0, -1, &handle);
@@ -198,25 +169,16 @@ TEST_F(TreeListTest, AddHeaderAndSeparator) {
 TEST_F(TreeListTest, QueriesByRow) {
     BuildSample();
     list->Expand(0);
-    EXPECT_EQ(1, list->GetItemLevel(1));
     EXPECT_EQ(-1, list->GetItemLevel(99));
-    EXPECT_EQ(110u, list->GetItemData(1));
-    EXPECT_EQ(0u, list->GetItemData(-1));
-    EXPECT_EQ(2, list->GetNodeHandle(1));
-    EXPECT_EQ(-1, list->GetNodeHandle(-1));
     EXPECT_EQ(2, list->GetListboxIndex(5));  // A2
     EXPECT_EQ(-1, list->GetListboxIndex(3)); // A1a does not show
     EXPECT_FALSE(list->IsChildNode(1)) << "A1 has children";
     EXPECT_TRUE(list->IsChildNode(2));
-    EXPECT_FALSE(list->IsChildNode(77));
-
     list->SetDisplayText(2, S(L"A2 renamed"));
     EXPECT_EQ(L"A2 renamed", Rows()[2]);
-    list->SetDisplayText(42, S(L"nothing"));
     Select(2);
     EXPECT_TRUE(list->IsChildNodeSelected());
     EXPECT_EQ(120u, list->GetCurSelItemData());
-    EXPECT_EQ(CString(L"A2 renamed"), list->GetCurSelDisplayText());
 }
 
 TEST_F(TreeListTest, SelectionByItemDataOrTextShowsTheNodeAndNotifies) {
@@ -247,11 +209,8 @@ TEST_F(TreeListTest, ScrollingAndTheScrollbar) {
     for (int i = 10; i < 40; ++i)
         list->AddItem(S(L"row"), -1, -1, static_cast<unsigned long>(i));
     EXPECT_TRUE(list->IsVerticalScrollbarVisible());
-    const auto top = [&] { return static_cast<int>(SendMessageW(Hwnd(), LB_GETTOPINDEX, 0, 0)); };
-    list->ScrollItemIntoView(15);
-    EXPECT_EQ(1, top()) << "one row per whole page below the top";
-    list->ScrollItemIntoView(41);
-    EXPECT_EQ(1, top()) << "past the count: ignored";
+    list->ScrollItemIntoView(15); // the arithmetic is the geometry's
+    EXPECT_EQ(1, SendMessageW(Hwnd(), LB_GETTOPINDEX, 0, 0));
 }
 
 // A control that makes nodes of its own class.
