@@ -18,13 +18,9 @@ namespace RegExpressionTestSupport {
 inline std::string Show(vu::StringView s) {
     std::string out;
     for (WCHAR c : s) {
-        if (c >= 0x20 && c < 0x7F) {
-            out.push_back(static_cast<char>(c));
-        } else {
-            char buf[8];
-            std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
-            out += buf;
-        }
+        char buf[8];
+        std::snprintf(buf, sizeof buf, "\\u%04X", static_cast<unsigned>(c));
+        out += (c >= 0x20 && c < 0x7F) ? std::string(1, static_cast<char>(c)) : buf;
     }
     return out;
 }
@@ -56,10 +52,9 @@ public:
 
     // A text over a..d with a few specials, 0..maxLength units.
     vu::String Text(size_t maxLength) {
-        static const WCHAR kUnits[] = VU_T("aaaabbbbccd-]\n.");
         vu::String text(Below(maxLength + 1), VU_T('a'));
         for (WCHAR& c : text)
-            c = kUnits[Below(sizeof kUnits / sizeof kUnits[0] - 1)];
+            c = Pick(VU_T("aaaabbbbccd-]\n."));
         return text;
     }
 
@@ -67,84 +62,56 @@ public:
     bool Chance(int percent) { return int(Below(100)) < percent; }
 
 private:
+    WCHAR Pick(vu::StringView units) { return units[Below(units.size())]; }
+
     vu::String Alternation(int depth) {
         vu::String s = Branch(depth);
-        while (Chance(depth == 0 ? 25 : 30)) {
-            s += VU_T('|');
-            s += Branch(depth);
-        }
+        while (Chance(depth == 0 ? 25 : 30))
+            s += VU_T('|') + Branch(depth);
         return s;
     }
 
     vu::String Branch(int depth) {
         vu::String s;
-        const size_t pieces = Below(depth == 0 ? 5 : 4);
-        for (size_t i = 0; i < pieces; ++i)
-            s += Piece(depth);
-        return s;
-    }
-
-    vu::String Piece(int depth) {
-        vu::String s = Atom(depth);
-        const size_t r = Below(100);
-        if (r < 15)
-            s += VU_T('*');
-        else if (r < 28)
-            s += VU_T('+');
-        else if (r < 40)
-            s += VU_T('?');
+        for (size_t pieces = Below(depth == 0 ? 5 : 4); pieces > 0; --pieces) {
+            s += Atom(depth);
+            const size_t r = Below(100);
+            if (r < 40)
+                s += r < 15 ? VU_T('*') : r < 28 ? VU_T('+') : VU_T('?');
+        }
         return s;
     }
 
     vu::String Atom(int depth) {
         const size_t r = Below(100);
-        if (r < 40)
-            return vu::String(1, Letter());
-        if (r < 50) {
-            vu::String two(1, Letter());
-            two += Letter();
-            return two;
-        }
+        if (r < 50)
+            return r < 40 ? vu::String(1, Letter()) : vu::String{Letter(), Letter()};
         if (r < 57)
             return VU_T(".");
         if (r < 70)
             return Set();
         if (r < 84 && depth < 3 && m_groups < 9) {
             ++m_groups;
-            vu::String group = VU_T("(");
-            group += Alternation(depth + 1);
-            group += VU_T(')');
-            return group;
+            vu::String group(1, VU_T('('));
+            return (group += Alternation(depth + 1)) += VU_T(')');
         }
-        if (r < 88)
-            return VU_T("^");
         if (r < 92)
-            return VU_T("$");
-        static const WCHAR kEscaped[] = VU_T("abd.*+?()[]|^$\\-{");
-        vu::String escape = VU_T("\\");
-        escape += kEscaped[Below(sizeof kEscaped / 2 - 1)];
-        return escape;
+            return r < 88 ? VU_T("^") : VU_T("$");
+        return vu::String{VU_T('\\'), Pick(VU_T("abd.*+?()[]|^$\\-{"))};
     }
 
     vu::String Set() {
-        static const WCHAR kMembers[] = VU_T("abcd-]^.\\");
         vu::String s = VU_T("[");
         if (Chance(30))
             s += VU_T('^');
         if (Chance(10))
             s += Chance(50) ? VU_T(']') : VU_T('-');
-        const size_t members = 1 + Below(3);
-        for (size_t i = 0; i < members; ++i) {
+        for (size_t members = 1 + Below(3); members > 0; --members) {
             if (Chance(25)) {
                 const WCHAR lo = WCHAR(VU_T('a') + Below(3));
-                s += lo;
-                s += VU_T('-');
-                s += WCHAR(lo + Below(3));
+                s += vu::String{lo, VU_T('-'), WCHAR(lo + Below(3))};
             } else {
-                WCHAR c = kMembers[Below(sizeof kMembers / 2 - 1)];
-                if (c == VU_T(']'))
-                    c = VU_T('b'); // only first, where it is a member
-                s += c;
+                s += Pick(VU_T("abcd-b^.\\")); // ']' is a member only first
             }
         }
         if (Chance(10))
@@ -154,10 +121,7 @@ private:
         return s;
     }
 
-    WCHAR Letter() {
-        static const WCHAR kLetters[] = VU_T("aaabbbcd-]{\n");
-        return kLetters[Below(sizeof kLetters / 2 - 1)];
-    }
+    WCHAR Letter() { return Pick(VU_T("aaabbbcd-]{\n")); }
 
     std::mt19937 m_random;
     int m_groups = 0;

@@ -15,18 +15,15 @@ namespace {
 
 using Text = vu::String;
 
-bool IsDelimiter(WCHAR c) {
-    return Text(VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS).find(c) != Text::npos;
-}
-
 Text Lower(Text s) {
     std::ranges::transform(s, s.begin(), vu::ToLower);
     return s;
 }
 
 bool Whole(const Text& s, int p, int m) {
-    const int n = static_cast<int>(s.size());
-    return (p == 0 || IsDelimiter(s[p - 1])) && (p + m >= n || IsDelimiter(s[p + m]));
+    const vu::StringView delimiters = VU_CSearchableString::c_DEFAULT_TOKEN_DELIMITERS;
+    const auto delimiter = [&](int i) { return delimiters.find(s[i]) != vu::StringView::npos; };
+    return (p == 0 || delimiter(p - 1)) && (p + m >= int(s.size()) || delimiter(p + m));
 }
 
 // Forward: occurrences from start; a rejected one is skipped whole. The
@@ -37,7 +34,7 @@ int ReferenceFind(Text s, Text f, int start, bool wholeWord, bool noCase) {
         f = Lower(f);
     }
     const int n = static_cast<int>(s.size()), m = static_cast<int>(f.size());
-    for (int p = std::max(start, 0); m > 0 && p + m <= n; ++p) {
+    for (int p = std::max(start, 0); p + m <= n; ++p) {
         if (s.compare(p, m, f) != 0)
             continue;
         if (!wholeWord || Whole(s, p, m))
@@ -51,22 +48,19 @@ int ReferenceFind(Text s, Text f, int start, bool wholeWord, bool noCase) {
 // tests whole words on the real text.
 int ReferenceReverseFind(const Text& s, const Text& f, int start, bool wholeWord, bool noCase) {
     const int n = static_cast<int>(s.size()), m = static_cast<int>(f.size());
-    if (m == 0 || n == 0 || start < -1)
+    if (n == 0 || start < -1)
         return -1;
-    if (start == -1 || start >= n)
-        start = n - 1;
     const Text ls = noCase ? Lower(s) : s, lf = noCase ? Lower(f) : f;
-    for (int p = start; p >= 0; --p)
+    for (int p = start == -1 || start >= n ? n - 1 : start; p >= 0; --p)
         if (p + m <= n && ls.compare(p, m, lf) == 0 && (!wholeWord || Whole(s, p, m)))
             return p;
     return -1;
 }
 
-Text Random(std::mt19937& rng, int length, vu::StringView alphabet) {
-    std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
-    Text s(length, VU_T(' '));
+Text Random(std::mt19937& rng, int from, int to, vu::StringView alphabet) {
+    Text s(std::uniform_int_distribution<int>(from, to)(rng), VU_T(' '));
     for (WCHAR& c : s)
-        c = alphabet[pick(rng)];
+        c = alphabet[rng() % alphabet.size()];
     return s;
 }
 
@@ -76,22 +70,19 @@ TEST(SearchableStringScan, AgreesWithReferenceLoops) {
     // ASCII letter (KELVIN SIGN) and other non-ASCII letters.
     const vu::StringView alphabet = VU_T("aaabAB -.\u212Ak\u00E4\u00C4");
     for (int round = 0; round < 400 && !HasFailure(); ++round) {
-        const int length = std::uniform_int_distribution<int>(0, 70)(rng);
-        const Text text = Random(rng, length, alphabet);
-        const Text find = Random(rng, std::uniform_int_distribution<int>(1, 4)(rng), alphabet);
+        const Text text = Random(rng, 0, 70, alphabet), find = Random(rng, 1, 4, alphabet);
         VU_CSearchableString s(text.c_str());
-        for (int start = -2; start <= length + 1; ++start)
+        for (int start = -2; start <= int(text.size()) + 1; ++start)
             for (const bool noCase : {false, true})
-                for (const BOOL wholeWord : {FALSE, TRUE}) {
-                    SCOPED_TRACE(testing::Message()
-                                 << "round " << round << " start " << start << " wholeWord "
-                                 << wholeWord << " noCase " << noCase);
-                    EXPECT_EQ(noCase ? s.FindNoCase(find.c_str(), start, wholeWord)
-                                     : s.Find(find.c_str(), start, wholeWord),
-                              ReferenceFind(text, find, start, wholeWord, noCase));
-                    EXPECT_EQ(noCase ? s.ReverseFindNoCase(find.c_str(), start, wholeWord)
-                                     : s.ReverseFind(find.c_str(), start, wholeWord),
-                              ReferenceReverseFind(text, find, start, wholeWord, noCase));
+                for (const BOOL whole : {FALSE, TRUE}) {
+                    SCOPED_TRACE(testing::Message() << "round " << round << " start " << start
+                                                    << " whole " << whole << " noCase " << noCase);
+                    const WCHAR* f = find.c_str();
+                    EXPECT_EQ(noCase ? s.FindNoCase(f, start, whole) : s.Find(f, start, whole),
+                              ReferenceFind(text, find, start, whole, noCase));
+                    EXPECT_EQ(noCase ? s.ReverseFindNoCase(f, start, whole)
+                                     : s.ReverseFind(f, start, whole),
+                              ReferenceReverseFind(text, find, start, whole, noCase));
                 }
     }
 }
@@ -100,8 +91,8 @@ TEST(SearchableStringScan, CharacterSearchesAgreeWithReferenceLoops) {
     std::mt19937 rng(78);
     const vu::StringView alphabet = VU_T("abAB ,\u212Ak");
     for (int round = 0; round < 300 && !HasFailure(); ++round) {
-        const int length = std::uniform_int_distribution<int>(0, 50)(rng);
-        const Text text = Random(rng, length, alphabet);
+        const Text text = Random(rng, 0, 50, alphabet);
+        const int length = int(text.size());
         const WCHAR ch = alphabet[round % alphabet.size()];
         VU_CSearchableString s(text.c_str());
         SCOPED_TRACE("round " + std::to_string(round));
@@ -109,11 +100,10 @@ TEST(SearchableStringScan, CharacterSearchesAgreeWithReferenceLoops) {
         EXPECT_EQ(s.ReverseFind(ch), static_cast<int>(text.rfind(ch)));
         for (int start = 0; start <= length; ++start) {
             EXPECT_EQ(s.Find(ch, start, FALSE), static_cast<int>(text.find(ch, start)));
-            for (int to = start; to <= length; to += 7) {
-                const Text upTo = text.substr(0, std::max(to, start + 1));
-                EXPECT_EQ(s.FindN(ch, start, to, FALSE), static_cast<int>(upTo.find(ch, start)))
+            for (int to = start; to <= length; to += 7)
+                EXPECT_EQ(s.FindN(ch, start, to, FALSE),
+                          static_cast<int>(text.substr(0, std::max(to, start + 1)).find(ch, start)))
                     << "from " << start << " to " << to;
-            }
         }
     }
 }
