@@ -12,24 +12,16 @@ namespace {
 
 using Soft = VU_CSearchableStringWithSoftLineBreaks;
 
-// Words, blanks, tabs and hard breaks; never a soft break of its own.
-vu::String RandomText(std::mt19937& rng) {
-    static const vu::String pieces[] = {VU_T("a"),        VU_T("of"),    VU_T("word"),
-                                        VU_T("wrapping"), VU_T("x_y-z"), VU_T(" "),
-                                        VU_T(" "),        VU_T(" "),     VU_T("\t"),
-                                        VU_T("\r\n"),     VU_T("\n"),    VU_T("longerthananyline")};
-    vu::String text;
-    for (int n = std::uniform_int_distribution<int>(0, 40)(rng); n > 0; --n)
-        text += pieces[std::uniform_int_distribution<std::size_t>(0, std::size(pieces) - 1)(rng)];
-    return text;
-}
-
-// Out and back in gives the wrapped text again, and searches across the
-// breaks find what the unwrapped text holds.
 TEST(SoftBreaksProperty, RoundTripIsAnIdentityAndSearchesSeeTheUnwrappedText) {
+    // Words, blanks, tabs and hard breaks; never a soft break of its own.
+    const vu::String pieces[] = {VU_T("a"),    VU_T("of"), VU_T("wrapping"), VU_T("x_y-z"),
+                                 VU_T(" "),    VU_T(" "),  VU_T("\t"),       VU_T("\r\n"),
+                                 VU_T("\n"),   VU_T("longerthananyline")};
     std::mt19937 rng(20240611);
-    for (int round = 0; round < 300; ++round) {
-        const vu::String text = RandomText(rng);
+    for (int round = 0; round < 300 && !HasFailure(); ++round) {
+        vu::String text;
+        for (int n = rng() % 41; n > 0; --n)
+            text += pieces[rng() % std::size(pieces)];
         const int n = static_cast<int>(text.size());
         for (int width : {-1, 1, 2, 3, 5, 8, 13, 40}) {
             SCOPED_TRACE(testing::Message() << "round " << round << " width " << width);
@@ -41,17 +33,15 @@ TEST(SoftBreaksProperty, RoundTripIsAnIdentityAndSearchesSeeTheUnwrappedText) {
             int start, end;
             s.GetSelection(start, end);
             EXPECT_EQ(start, static_cast<int>(wrapped.size())) << "the caret stays at the end";
-
             EXPECT_EQ(s.RemoveSoftLineBreaks(), breaks);
             EXPECT_EQ(s.Str(), text);
             EXPECT_EQ(s.ReInsertSoftLineBreaks(), breaks);
             EXPECT_EQ(s.ReplaceSoftLineBreaksWith(VU_T("\u00b6")), breaks);
             EXPECT_EQ(s.ReInsertSoftLineBreaks(), breaks);
             ASSERT_EQ(s.Str(), wrapped);
-
             if (n == 0)
                 continue;
-            const int at = std::uniform_int_distribution<int>(0, n - 1)(rng);
+            const int at = static_cast<int>(rng() % n);
             const vu::String needle = text.substr(at, 1 + at % 5);
             vu::String upper = needle;
             for (WCHAR& c : upper)
@@ -60,7 +50,6 @@ TEST(SoftBreaksProperty, RoundTripIsAnIdentityAndSearchesSeeTheUnwrappedText) {
             EXPECT_EQ(s.FindNoCase(upper.c_str()), int(text.find(needle)));
             EXPECT_EQ(s.ReverseFind(needle.c_str()), int(text.rfind(needle)));
             EXPECT_EQ(s.Find(needle[0], at), int(text.find(needle[0], at)));
-            ASSERT_EQ(s.Str(), wrapped);
         }
     }
 }
