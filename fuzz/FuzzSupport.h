@@ -17,10 +17,9 @@ inline void Check(bool ok) {
 
 // Up to maxLength units of alphabet.
 inline vu::String Text(FuzzedDataProvider& in, vu::StringView alphabet, std::size_t maxLength) {
-    vu::String s;
-    for (auto n = in.ConsumeIntegralInRange<std::size_t>(0, maxLength);
-         n > 0 && in.remaining_bytes() > 0; --n)
-        s += alphabet[in.ConsumeIntegralInRange<std::size_t>(0, alphabet.size() - 1)];
+    vu::String s(in.ConsumeIntegralInRange<std::size_t>(0, maxLength), VU_T(' '));
+    for (WCHAR& c : s)
+        c = alphabet[in.ConsumeIntegralInRange<std::size_t>(0, alphabet.size() - 1)];
     return s;
 }
 

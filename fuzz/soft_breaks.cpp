@@ -12,8 +12,6 @@ namespace {
 using Soft = VU_CSearchableStringWithSoftLineBreaks;
 using fuzz::Check;
 
-constexpr int kMaxLength = 4096; // keeps one-replacement-at-a-time edits quick
-
 // Breaks, blanks, delimiters, case pairs, regular-expression specials; '~'
 // stands for a soft break typed into the text.
 vu::String Text(FuzzedDataProvider& in, std::size_t maxLength) {
@@ -23,77 +21,13 @@ vu::String Text(FuzzedDataProvider& in, std::size_t maxLength) {
     return text;
 }
 
-int Position(FuzzedDataProvider& in, const Soft& s) {
-    return in.ConsumeIntegralInRange<int>(-3, s.GetLength() + 3);
-}
-
 // Right after wrapping the breaks are in: out and back in is an identity.
-void CheckRoundTrip(Soft& s) {
+void WrapAndRoundTrip(Soft& s, int width) {
+    Check(s.WordWrapText(width) == s.GetNumberOfSoftLineBreaks(s.GetLength() + 1));
     const vu::String wrapped = s.Str();
     const int breaks = s.RemoveSoftLineBreaks();
-    Check(s.WereSoftLineBreaksRemoved());
-    Check(s.ReInsertSoftLineBreaks() == breaks);
+    Check(s.WereSoftLineBreaksRemoved() && s.ReInsertSoftLineBreaks() == breaks);
     Check(s.Str() == wrapped);
-}
-
-void Step(FuzzedDataProvider& in, Soft& s) {
-    const vu::String a = Text(in, 4);
-    const vu::String b = Text(in, 4);
-    const WCHAR c = a.empty() ? VU_T('a') : a[0];
-    const BOOL flag = in.ConsumeBool();
-    // clang-format off
-    switch (in.ConsumeIntegralInRange(0, 12)) {
-    case 0: {
-        const int breaks = s.WordWrapText(in.ConsumeIntegralInRange(-3, 40));
-        Check(breaks == s.GetNumberOfSoftLineBreaks(s.GetLength() + 1));
-        CheckRoundTrip(s);
-        break;
-    }
-    case 1: s.RemoveSoftLineBreaks(); s.ReplaceSoftLineBreaksWith(CString(a)); break;
-    case 2: s.ReInsertSoftLineBreaks(); break;
-    case 3:
-        s.SetSelection(Position(in, s), Position(in, s));
-        s.ReplaceSelectionWith(CString(a));
-        break;
-    case 4: // every search form; each moves the selection
-        s.Find(a.c_str(), Position(in, s), flag);
-        s.Find(c, Position(in, s), flag);
-        s.FindNoCase(a.c_str(), Position(in, s), flag);
-        s.FindNoCase(c, Position(in, s), flag);
-        s.ReverseFind(a.c_str(), Position(in, s), flag);
-        s.ReverseFind(c);
-        s.ReverseFindNoCase(a.c_str(), Position(in, s), flag);
-        s.ReverseFindNoCase(c, Position(in, s), flag);
-        s.FindN(c, Position(in, s), Position(in, s), flag);
-        break;
-    case 5: s.FindRegularExp(a.c_str(), Position(in, s)); break;
-    case 6: s.FindReplaceRegularExp(a.c_str(), b.c_str(), flag); break;
-    case 7: s.FindReplace(a.c_str(), b.c_str(), flag, in.ConsumeBool()); break;
-    case 8: s.FindReplaceNoCase(a.c_str(), b.c_str(), flag, in.ConsumeBool()); break;
-    case 9: s.InsertAt(Position(in, s), a.c_str()); s.InsertAt(Position(in, s), c); break;
-    case 10:
-        s.DeleteAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8));
-        s.ReplaceAt(Position(in, s), in.ConsumeIntegralInRange(-2, 8), b.c_str());
-        break;
-    case 11:
-        s.GetField(a.c_str(), in.ConsumeIntegralInRange(-1, 5));
-        s.GetFieldCount(c);
-        s.GetDelimitedField(a.c_str(), b.c_str(), in.ConsumeIntegralInRange(-1, 3));
-        break;
-    default: {
-        Soft copy(s);
-        Check(copy.Str() == s.Str() &&
-              copy.WereSoftLineBreaksRemoved() == s.WereSoftLineBreaksRemoved());
-        if (flag)
-            s = copy;
-        else
-            s = CString(a);
-        break;
-    }
-    }
-    // clang-format on
-    if (s.GetLength() > kMaxLength)
-        s = CString(s.View().substr(0, 64));
 }
 
 } // namespace
@@ -101,9 +35,52 @@ void Step(FuzzedDataProvider& in, Soft& s) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     FuzzedDataProvider in(data, size);
     Soft s{CString(Text(in, 200))};
-    s.WordWrapText(in.ConsumeIntegralInRange(-1, 30));
-    CheckRoundTrip(s);
-    for (int step = 0; step < 48 && in.remaining_bytes() > 0; ++step)
-        Step(in, s);
+    WrapAndRoundTrip(s, in.ConsumeIntegralInRange(-1, 30));
+    for (int step = 0; step < 48 && in.remaining_bytes() > 0; ++step) {
+        const vu::String a = Text(in, 4), b = Text(in, 4);
+        const WCHAR c = a.empty() ? VU_T('a') : a[0];
+        const BOOL flag = in.ConsumeBool();
+        const auto at = [&] { return in.ConsumeIntegralInRange<int>(-3, s.GetLength() + 3); };
+        switch (in.ConsumeIntegralInRange(0, 7)) {
+        case 0:
+            WrapAndRoundTrip(s, in.ConsumeIntegralInRange(-3, 40));
+            break;
+        case 1:
+            s.RemoveSoftLineBreaks();
+            s.ReplaceSoftLineBreaksWith(CString(a));
+            s.ReInsertSoftLineBreaks();
+            break;
+        case 2:
+            s.SetSelection(at(), at());
+            s.ReplaceSelectionWith(CString(a));
+            break;
+        case 3: // searches move the selection
+            s.Find(a.c_str(), at(), flag);
+            s.FindNoCase(c, at(), flag);
+            s.ReverseFindNoCase(a.c_str(), at(), flag);
+            s.FindN(c, at(), at(), flag);
+            s.FindRegularExp(a.c_str(), at());
+            break;
+        case 4:
+            s.FindReplaceRegularExp(a.c_str(), b.c_str(), flag);
+            s.FindReplace(a.c_str(), b.c_str(), flag, in.ConsumeBool());
+            s.FindReplaceNoCase(a.c_str(), b.c_str(), flag, in.ConsumeBool());
+            break;
+        case 5:
+            s.InsertAt(at(), a.c_str());
+            s.DeleteAt(at(), in.ConsumeIntegralInRange(-2, 8));
+            s.ReplaceAt(at(), in.ConsumeIntegralInRange(-2, 8), b.c_str());
+            break;
+        default: {
+            const Soft copy(s);
+            Check(copy.Str() == s.Str() &&
+                  copy.WereSoftLineBreaksRemoved() == s.WereSoftLineBreaksRemoved());
+            s = flag ? copy : Soft(CString(a));
+            break;
+        }
+        }
+        if (s.GetLength() > 4096) // keeps one-replacement-at-a-time edits quick
+            s = CString(s.View().substr(0, 64));
+    }
     return 0;
 }

@@ -6,12 +6,14 @@
 
 #include "FuzzSupport.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <set>
-#include <string>
 #include <vector>
 
 namespace {
+
+using fuzz::Check;
 
 // Mostly characters that matter to names and escaping, some arbitrary units.
 AF_GString Text(FuzzedDataProvider& in) {
@@ -25,40 +27,25 @@ AF_GString Text(FuzzedDataProvider& in) {
     return s;
 }
 
-using fuzz::Check;
-
+// Any first unit, then only ASCII letters, '_' and ':'.
 bool ModelValidName(const vu::String& name) {
-    if (name.empty())
-        return false;
-    for (size_t i = 1; i < name.size(); ++i) {
-        const WCHAR c = name[i];
-        if (!((c >= VU_T('a') && c <= VU_T('z')) || (c >= VU_T('A') && c <= VU_T('Z')) ||
-              c == VU_T('_') || c == VU_T(':')))
-            return false;
-    }
-    return true;
+    const auto bad = [](WCHAR c) {
+        return !((c >= VU_T('a') && c <= VU_T('z')) || (c >= VU_T('A') && c <= VU_T('Z')) ||
+                 c == VU_T('_') || c == VU_T(':'));
+    };
+    return !name.empty() && std::none_of(name.begin() + 1, name.end(), bad);
 }
 
-vu::String Unescape(vu::String s) {
-    // clang-format off
-    static const std::pair<vu::String, WCHAR> entities[] = {
-        {VU_T("&lt;"), VU_T('<')}, {VU_T("&gt;"), VU_T('>')}, {VU_T("&apos;"), VU_T('\'')},
-        {VU_T("&quot;"), VU_T('"')}, {VU_T("&amp;"), VU_T('&')}};
-    // clang-format on
+// Element strings spell these five characters as entities.
+vu::String Escape(const AF_GString& s) {
     vu::String out;
-    for (size_t i = 0; i < s.size();) {
-        bool matched = false;
-        for (const auto& [entity, c] : entities) {
-            if (s.compare(i, entity.size(), entity) == 0) {
-                out += c;
-                i += entity.size();
-                matched = true;
-                break;
-            }
-        }
-        if (!matched)
-            out += s[i++];
-    }
+    for (WCHAR c : s)
+        out += c == VU_T('<')    ? VU_T("&lt;")
+               : c == VU_T('>')  ? VU_T("&gt;")
+               : c == VU_T('&')  ? VU_T("&amp;")
+               : c == VU_T('\'') ? VU_T("&apos;")
+               : c == VU_T('"')  ? VU_T("&quot;")
+                                 : vu::String(1, c);
     return out;
 }
 
@@ -70,24 +57,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     bool tagOpen = false;
     std::set<vu::String> attributes;
     std::vector<vu::String> open;
-    const auto closesTag = [&] {
-        tagOpen = false;
-        attributes.clear();
-    };
     for (int steps = 0; steps < 200 && in.remaining_bytes() > 0; ++steps) {
         const vu::String before(w.GetOutput());
-        const size_t closer = tagOpen ? 1 : 0; // the '>' that content adds first
-        bool ok = true;
+        bool ok = true, closesTag = false;
         switch (in.ConsumeIntegralInRange(0, 6)) {
         case 0: {
             const AF_GString name = Text(in);
-            ok = w.WriteStartElement(name);
-            Check(ok == ModelValidName(name));
+            Check((ok = w.WriteStartElement(name)) == ModelValidName(name));
             if (ok) {
-                closesTag();
-                tagOpen = true;
                 open.push_back(name);
+                attributes.clear();
             }
+            tagOpen = tagOpen || ok;
             break;
         }
         case 1: {
@@ -99,43 +80,41 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
                 attributes.insert(name);
             break;
         }
-        case 2: {
+        case 2: { // the '>' that content adds first, then the escaped text
             const AF_GString text = Text(in);
             w.WriteElementString(text);
-            Check(Unescape(vu::String(w.GetOutput().substr(before.size() + closer))) == text);
-            closesTag();
+            Check(w.GetOutput().substr(before.size() + tagOpen) == Escape(text));
+            closesTag = true;
             break;
         }
         case 3:
-            ok = w.WriteEndElement();
-            Check(ok == !open.empty());
+            Check((ok = w.WriteEndElement()) == !open.empty());
             if (ok) {
                 Check(w.GetOutput().ends_with(VU_T("</") + open.back() + VU_T(">")));
                 open.pop_back();
             }
-            closesTag();
+            closesTag = true;
             break;
         case 4: // content that closes the start tag
             w.WriteElementValue(in.ConsumeIntegral<long>());
             w.WriteElementValue(in.ConsumeBool());
             w.WriteComment(Text(in));
-            closesTag();
+            closesTag = true;
             break;
         case 5: // and content that leaves it open
             w.WriteCData(Text(in));
             w.WriteRaw(Text(in));
             break;
-        default: {
-            const AF_GString formatted = w.ToStringFormatted();
-            size_t tagEnds = 0;
-            for (WCHAR c : before)
-                tagEnds += c == VU_T('>');
-            Check(formatted.size() == before.size() + tagEnds);
+        default: // formatting breaks after every '>' and changes nothing else
+            Check(w.ToStringFormatted().size() ==
+                  before.size() + size_t(std::count(before.begin(), before.end(), VU_T('>'))));
             break;
         }
+        if (closesTag) {
+            tagOpen = false;
+            attributes.clear();
         }
-        Check(w.GetOutput().starts_with(before));
-        Check(ok || w.GetOutput() == before);
+        Check(w.GetOutput().starts_with(before) && (ok || w.GetOutput() == before));
         Check(w.IsStartTagOpen() == tagOpen);
         Check(w.GetOpenElementCount() == static_cast<int>(open.size()));
     }

@@ -60,9 +60,8 @@ TEST(RegExpressionScan, AgreesWithPlainLoopsAtEveryAlignment) {
                     << "literal of length " << lit.size();
             EXPECT_EQ(Scan::FindInRanges(s, VU_T("xz\u00e9"), VU_T("xz\u00ff"), 3),
                       NaiveFindInRanges(s, VU_T("xz\u00e9"), VU_T("xz\u00ff")));
-            EXPECT_EQ(Scan::FindInRanges(s, VU_T("b"), VU_T("c"), 1),
-                      NaiveFindInRanges(s, VU_T("b"), VU_T("c")));
-            EXPECT_EQ(Scan::RunOf(s, VU_T('a')), std::min(view.find_first_not_of(VU_T('a')), length));
+            EXPECT_EQ(Scan::RunOf(s, VU_T('a')),
+                      std::min(view.find_first_not_of(VU_T('a')), length));
         }
     }
 }

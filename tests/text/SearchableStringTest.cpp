@@ -15,17 +15,11 @@ using S = VU_CSearchableString;
 
 TEST(SearchableStringConstruction, EveryFormBuildsTheTextAndDefaultDelimiters) {
     const unsigned char bytes[] = {'a', 0xE9, 0};
-    const struct {
-        S s;
-        vu::String text;
-    } rows[] = {{S(VU_T('x'), 3), VU_T("xxx")},
-                {S(VU_T("abcdef"), 4), VU_T("abcd")},
-                {S(nullptr, 4), VU_T("")},
-                {S(bytes), VU_T("a\u00E9")},
-                {S("plain"), VU_T("plain")}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.s.Str(), row.text);
-        EXPECT_EQ(row.s.GetTokenDelimiters().Str(), VU_T(" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~"));
+    const S forms[] = {S(VU_T('x'), 2), S(VU_T("xxyy"), 2), S(nullptr, 4), S(bytes), S("ok")};
+    const vu::String texts[] = {VU_T("xx"), VU_T("xx"), VU_T(""), VU_T("a\u00E9"), VU_T("ok")};
+    for (size_t i = 0; i < std::size(forms); ++i) {
+        EXPECT_EQ(forms[i].Str(), texts[i]);
+        EXPECT_EQ(forms[i].GetTokenDelimiters().Str(), VU_T(" ,.?!@#$%^&*()-/\"';:[]+\\\t\r\n~"));
     }
 }
 
@@ -45,18 +39,11 @@ TEST(SearchableStringConstruction, CopyTakesDelimitersAndPattern) {
 // op: F Find; with the needle's first character: f Find, n FindNoCase,
 //     q ReverseFindNoCase, N FindN up to 99, a digit FindN up to that digit.
 int Search(S& s, char op, const WCHAR* find, int start, BOOL wholeWord) {
-    switch (op) {
-    case 'F':
-        return s.Find(find, start, wholeWord);
-    case 'f':
-        return s.Find(find[0], start, wholeWord);
-    case 'n':
-        return s.FindNoCase(find[0], start, wholeWord);
-    case 'q':
-        return s.ReverseFindNoCase(find[0], start, wholeWord);
-    default:
-        return s.FindN(find[0], start, op == 'N' ? 99 : op - '0', wholeWord);
-    }
+    return op == 'F'   ? s.Find(find, start, wholeWord)
+           : op == 'f' ? s.Find(find[0], start, wholeWord)
+           : op == 'n' ? s.FindNoCase(find[0], start, wholeWord)
+           : op == 'q' ? s.ReverseFindNoCase(find[0], start, wholeWord)
+                       : s.FindN(find[0], start, op == 'N' ? 99 : op - '0', wholeWord);
 }
 
 TEST(SearchableStringFind, Rules) {
@@ -108,8 +95,8 @@ TEST(SearchableStringFind, CheckForWholeWordTreatsTextEndsAsBoundaries) {
         using S::CheckForWholeWord;
         using S::S;
     } s(VU_T("ab cd "));
-    const int rows[][3] = {{0, 2, 0},   {3, 2, 3},   {1, 1, -1}, {-7, 2, -7}, // negatives pass
-                           {6, 1, -1},  {5, 2, -1},  {6, 0, 6},  {7, 0, -1},  // within the text
+    const int rows[][3] = {{0, 2, 0},  {3, 2, 3},  {1, 1, -1}, {-7, 2, -7}, // negatives pass
+                           {6, 1, -1}, {5, 2, -1}, {6, 0, 6},  {7, 0, -1},  // within the text
                            {2, -1, -1}};
     for (const auto& row : rows)
         EXPECT_EQ(s.CheckForWholeWord(row[0], row[1]), row[2]) << row[0] << "," << row[1];
@@ -187,7 +174,8 @@ TEST(SearchableStringFields, CountEveryFieldAndDelimitedFields) {
         const int count = static_cast<int>(row.fields.size());
         EXPECT_EQ(s.GetFieldCount(row.delimiter), count);
         for (int n = -1; n <= count; ++n)
-            EXPECT_EQ(s.GetField(row.delimiter, n).Str(), n >= 0 && n < count ? row.fields[n] : VU_T(""))
+            EXPECT_EQ(s.GetField(row.delimiter, n).Str(),
+                      n >= 0 && n < count ? row.fields[n] : VU_T(""))
                 << testing::PrintToString(row.text) << " field " << n;
     }
     EXPECT_EQ(S(VU_T("k=v;w")).GetField(VU_T(';'), 1).Str(), VU_T("w"));
@@ -206,24 +194,20 @@ TEST(SearchableStringEdit, InsertDeleteReplace) {
         int index, count;
         const WCHAR *arg, *expected;
     } rows[] = {
-        {'I', 1, 0, VU_T("XY"), VU_T("aXYbcd")},   {'I', 6, 0, VU_T("x"), VU_T("abcd  x")},
-        {'I', 6, 0, VU_T(""), VU_T("abcd")},       {'I', -1, 0, VU_T("x"), VU_T("abcd")},
-        {'c', 4, 0, VU_T("e"), VU_T("abcde")},     {'D', 1, 2, nullptr, VU_T("ad")},
-        {'D', 1, -1, nullptr, VU_T("a")},          {'D', 2, 9, nullptr, VU_T("ab")},
-        {'D', -1, 2, nullptr, VU_T("abcd")},       {'R', 1, 2, VU_T("XYZ"), VU_T("aXYZd")},
-        {'R', 3, 9, VU_T("x"), VU_T("abcx")},      {'R', 7, 1, VU_T("x"), VU_T("abcdx")},
-        {'R', -3, 1, VU_T("x"), VU_T("xbcd")},     {'R', 1, 1, nullptr, VU_T("acd")},
+        {'I', 1, 0, VU_T("XY"), VU_T("aXYbcd")}, {'I', 6, 0, VU_T("x"), VU_T("abcd  x")},
+        {'I', 6, 0, VU_T(""), VU_T("abcd")},     {'I', -1, 0, VU_T("x"), VU_T("abcd")},
+        {'c', 4, 0, VU_T("e"), VU_T("abcde")},   {'D', 1, 2, nullptr, VU_T("ad")},
+        {'D', 1, -1, nullptr, VU_T("a")},        {'D', 2, 9, nullptr, VU_T("ab")},
+        {'D', -1, 2, nullptr, VU_T("abcd")},     {'R', 1, 2, VU_T("XYZ"), VU_T("aXYZd")},
+        {'R', 3, 9, VU_T("x"), VU_T("abcx")},    {'R', 7, 1, VU_T("x"), VU_T("abcdx")},
+        {'R', -3, 1, VU_T("x"), VU_T("xbcd")},   {'R', 1, 1, nullptr, VU_T("acd")},
     };
     for (const auto& row : rows) {
         S s(VU_T("abcd"));
-        if (row.op == 'I')
-            s.InsertAt(row.index, row.arg);
-        else if (row.op == 'c')
-            s.InsertAt(row.index, row.arg[0]);
-        else if (row.op == 'D')
-            s.DeleteAt(row.index, row.count);
-        else
-            s.ReplaceAt(row.index, row.count, row.arg);
+        row.op == 'I'   ? s.InsertAt(row.index, row.arg)
+        : row.op == 'c' ? s.InsertAt(row.index, row.arg[0])
+        : row.op == 'D' ? s.DeleteAt(row.index, row.count)
+                        : s.ReplaceAt(row.index, row.count, row.arg);
         EXPECT_EQ(s.Str(), row.expected) << row.op << " " << row.index << "," << row.count;
     }
 }

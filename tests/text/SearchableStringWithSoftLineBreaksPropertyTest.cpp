@@ -14,9 +14,9 @@ using Soft = VU_CSearchableStringWithSoftLineBreaks;
 
 TEST(SoftBreaksProperty, RoundTripIsAnIdentityAndSearchesSeeTheUnwrappedText) {
     // Words, blanks, tabs and hard breaks; never a soft break of its own.
-    const vu::String pieces[] = {VU_T("a"),    VU_T("of"), VU_T("wrapping"), VU_T("x_y-z"),
-                                 VU_T(" "),    VU_T(" "),  VU_T("\t"),       VU_T("\r\n"),
-                                 VU_T("\n"),   VU_T("longerthananyline")};
+    const vu::String pieces[] = {
+        VU_T("a"), VU_T("of"), VU_T("wrapping"), VU_T("x_y-z"), VU_T(" "),
+        VU_T(" "), VU_T("\t"), VU_T("\r\n"),     VU_T("\n"),    VU_T("longerthananyline")};
     std::mt19937 rng(20240611);
     for (int round = 0; round < 300 && !HasFailure(); ++round) {
         vu::String text;

@@ -91,7 +91,8 @@ TEST(SoftBreaksWrap, RewrapKeepsTheSelection) {
     // Plain wrapping is compared with the wrapped string in the property test.
     Soft s = Make(VU_T("a\r\r\nb\r\r\nc\r\r\nd"), {13, 13});
     EXPECT_EQ(s.WordWrapText(-1), 0);
-    EXPECT_EQ(SelectionOf(s), Selection(4, 4)) << "three breaks out move the caret short of the end";
+    EXPECT_EQ(SelectionOf(s), Selection(4, 4))
+        << "three breaks out move the caret short of the end";
     s = Make(VU_T("hello world"), {8, 9});
     s.WordWrapText(5);
     EXPECT_EQ(SelectionOf(s), Selection(11, 12));
@@ -185,10 +186,9 @@ TEST(SoftBreaksReplace, ReplaceAllWorksWithoutBreaksAndLeavesThemOut) {
 }
 
 TEST(SoftBreaksEdit, EditsAndFieldsUseUnbrokenPositions) {
-    void (*const edits[])(Soft&) = {[](Soft& s) { s.InsertAt(3, VU_T('X')); },
-                                    [](Soft& s) { s.InsertAt(6, VU_T("X")); },
-                                    [](Soft& s) { s.DeleteAt(1, 2); },
-                                    [](Soft& s) { s.ReplaceAt(1, 2, VU_T("-")); }};
+    void (*const edits[])(Soft&) = {
+        [](Soft& s) { s.InsertAt(3, VU_T('X')); }, [](Soft& s) { s.InsertAt(6, VU_T("X")); },
+        [](Soft& s) { s.DeleteAt(1, 2); }, [](Soft& s) { s.ReplaceAt(1, 2, VU_T("-")); }};
     const vu::String results[] = {VU_T("abcXd"), VU_T("abcd  X"), VU_T("ad"), VU_T("a-d")};
     for (size_t i = 0; i < std::size(edits); ++i) {
         Soft s = Make(VU_T("ab\r\r\ncd"), {5, 6});

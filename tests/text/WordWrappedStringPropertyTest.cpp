@@ -8,11 +8,11 @@
 namespace {
 
 TEST(WordWrappedStringProperties, GeneratedTexts) {
+    // clang-format off
     const vu::String pieces[] = {
-        VU_T("a"),      VU_T("word"),   VU_T("supercalifragilistic"), VU_T(" "), VU_T(" "),
-        VU_T(" "),      VU_T("\t"),     VU_T("\r\n"),                 VU_T("\r"), VU_T("\n"),
-        VU_T("\u3000"), VU_T("\u00a0"), VU_T("\u00e9t\u00e9"), VU_T("\u4e2d\u6587"),
-        VU_T("\U0001F600"), VU_T("\v")};
+        VU_T("a"), VU_T("word"), VU_T("supercalifragilistic"), VU_T(" "), VU_T(" "), VU_T(" "), VU_T("\t"), VU_T("\r\n"), VU_T("\r"), VU_T("\n"),
+        VU_T("\u3000"), VU_T("\u00a0"), VU_T("\u00e9t\u00e9"), VU_T("\u4e2d\u6587"), VU_T("\U0001F600"), VU_T("\v")};
+    // clang-format on
     std::mt19937 rng(20240611);
     for (int round = 0; round < 3000; ++round) {
         vu::String text;

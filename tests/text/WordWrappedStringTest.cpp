@@ -37,7 +37,6 @@ TEST(WordWrappedString, FittingRules) {
         // Only a plain space may hang past the limit.
         {"ideographic space never hangs", VU_T("abcd\u3000x"), 4, {VU_T("abcd"), VU_T("\u3000x")}},
         {"no-break space joins", VU_T("aaa\u00a0bbb"), 4, {VU_T("aaa\u00a0"), VU_T("bbb")}},
-        {"length 0 cuts every character", VU_T("ab"), 0, {VU_T("a"), VU_T("b")}},
         // clang-format on
     };
     for (const auto& row : rows)
@@ -51,7 +50,6 @@ TEST(WordWrappedString, JoiningChangesAndIndentation) {
     EXPECT_EQ(w.GetFullString(true, true).Str(), VU_T("aa \r\nbb\r\ncc"));
     EXPECT_EQ(w.GetLine(-1), VU_T("INVALID_LINE_NUMBER"));
     EXPECT_EQ(w.IndentText(2, 3), 0);
-    EXPECT_EQ(w.IndentText(2, -1), 0);
     EXPECT_EQ(w.IndentText(2, 1), 1);
     EXPECT_EQ(w.IndentText(1, 2), 1);
     EXPECT_EQ(w.GetFullString(true, false).Str(), VU_T("aa \r\r\n  bb\r\n   cc"));
@@ -64,20 +62,6 @@ TEST(WordWrappedString, JoiningChangesAndIndentation) {
     w = VU_CWordWrappedString(VU_T("x y"), -1);
     EXPECT_EQ(w.GetMaxLineLength(), 2147483647);
     EXPECT_EQ(LinesOf(w), (Lines{VU_T("x y")}));
-}
-
-TEST(WordWrappedString, Tokens) {
-    struct Tokenizing : VU_CWordWrappedString {
-        using VU_CWordWrappedString::Tokenize;
-        using VU_CWordWrappedString::VU_CWordWrappedString;
-    };
-    CStringArray tokens;
-    Tokenizing(VU_T("ab  c\r\n\r\rd\t\u3000e"), -1).Tokenize(tokens);
-    Lines got;
-    for (INT_PTR i = 0; i < tokens.GetSize(); ++i)
-        got.push_back(tokens[i].Str());
-    EXPECT_EQ(got, (Lines{VU_T("ab"), VU_T(" "), VU_T(" "), VU_T("c"), VU_T("\r\n"), VU_T("\r"),
-                          VU_T("\r"), VU_T("d"), VU_T("\t"), VU_T("\u3000"), VU_T("e")}));
 }
 
 } // namespace

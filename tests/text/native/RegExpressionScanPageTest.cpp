@@ -15,13 +15,14 @@ namespace {
 
 TEST(RegExpressionScanPage, ScansAndSearchesStopAtTheNulBeforeAGuardPage) {
     const size_t page = size_t(sysconf(_SC_PAGESIZE));
-    void* base = mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void* base =
+        mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     ASSERT_NE(base, MAP_FAILED);
     ASSERT_EQ(mprotect(static_cast<char*>(base) + page, page, PROT_NONE), 0);
     WCHAR* end = reinterpret_cast<WCHAR*>(static_cast<char*>(base) + page) - 1;
     *end = 0; // the page's last unit
-    const WCHAR* patterns[] = {VU_T("xyzzy"), VU_T("a*xyzzy"), VU_T("[ax]+y"), VU_T("q|r"),
-                               VU_T("x$"),    VU_T(".*x")};
+    const WCHAR* patterns[] = {VU_T("xyzzy"), VU_T("a*xyzzy"), VU_T("[ax]+y"),
+                               VU_T("q|r"),   VU_T("x$"),      VU_T(".*x")};
     for (size_t length = 1; length < 200; ++length) {
         SCOPED_TRACE(length);
         WCHAR* s = end - length;

@@ -19,8 +19,9 @@ namespace {
 // normalises them to line feeds.
 vu::String RandomText(std::mt19937& rng) {
     static const vu::String pieces[] = {
-        VU_T("a"),  VU_T("Zz9"), VU_T(" "),     VU_T("&"),      VU_T("<"),      VU_T(">"),
-        VU_T("'"),  VU_T("\""),  VU_T("\t"),    VU_T("\n"),     VU_T("]]>"),    VU_T("&amp;"),
+        VU_T("a"),      VU_T("Zz9"),    VU_T(" "),      VU_T("&"),
+        VU_T("<"),      VU_T(">"),      VU_T("'"),      VU_T("\""),
+        VU_T("\t"),     VU_T("\n"),     VU_T("]]>"),    VU_T("&amp;"),
         VU_T("\u00fc"), VU_T("\u20ac"), VU_T("\u4e2d"), VU_T("\U0001F600")};
     vu::String text;
     for (int n = rng() % 13; n > 0; --n)
