@@ -10,31 +10,8 @@
 void PrintTo(const CRect& r, std::ostream* os) {
     *os << "(" << r.left << "," << r.top << "," << r.right << "," << r.bottom << ")";
 }
-void PrintTo(const CPoint& p, std::ostream* os) {
-    *os << "(" << p.x << "," << p.y << ")";
-}
-void PrintTo(const CSize& s, std::ostream* os) {
-    *os << "[" << s.cx << "x" << s.cy << "]";
-}
 
 namespace {
-
-TEST(CRect, PtInRectIncludesTopLeftAndExcludesBottomRight) {
-    const CRect r(0, 0, 10, 10);
-    struct Row {
-        CPoint pt;
-        bool in;
-    } rows[] = {
-        {{0, 0}, true},   {{9, 9}, true},   {{10, 5}, false},
-        {{5, 10}, false}, {{-1, 5}, false}, {{5, -1}, false},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.pt));
-        EXPECT_EQ(r.PtInRect(row.pt), row.in);
-    }
-    EXPECT_FALSE(CRect(5, 5, 5, 5).PtInRect(CPoint(5, 5)));   // empty
-    EXPECT_FALSE(CRect(10, 10, 0, 0).PtInRect(CPoint(5, 5))); // reversed
-}
 
 TEST(CRect, IntersectAndUnionStoreEmptyResultsAsZeros) {
     struct Row {
