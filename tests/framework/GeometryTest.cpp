@@ -23,7 +23,6 @@ TEST(CRect, IntersectAndUnionStoreEmptyResultsAsZeros) {
         {"overlap", {0, 0, 10, 10}, {5, 5, 15, 15}, true, {5, 5, 10, 10}, {0, 0, 15, 15}},
         {"touching edges", {0, 0, 10, 10}, {10, 0, 20, 10}, false, {}, {0, 0, 20, 10}},
         {"disjoint", {0, 0, 1, 1}, {5, 5, 6, 6}, false, {}, {0, 0, 6, 6}},
-        {"contained", {0, 0, 10, 10}, {2, 3, 4, 5}, true, {2, 3, 4, 5}, {0, 0, 10, 10}},
         {"one empty", {0, 0, 10, 10}, {3, 3, 3, 8}, false, {}, {0, 0, 10, 10}},
         {"both empty", {4, 4, 4, 4}, {7, 7, 2, 2}, false, {}, {}},
     };
@@ -53,7 +52,6 @@ TEST(CRect, SubtractRectCutsOnlyWholeSides) {
         {"hole in the middle", {3, 3, 6, 6}, true, {0, 0, 10, 10}},
         {"corner", {5, 5, 20, 20}, true, {0, 0, 10, 10}},
         {"everything", {-1, -1, 11, 11}, false, {}},
-        {"disjoint", {20, 20, 30, 30}, true, {0, 0, 10, 10}},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);

@@ -34,12 +34,11 @@ public:
     // A hidden top-level window, or a child of parent when given.
     explicit PlainWindow(HWND parent = nullptr, DWORD style = 0, int id = 0) {
         RegisterOnce(L"VuTestPlainWindow", &PlainWindow::Proc);
-        hwnd = CreateWindowExW(0, L"VuTestPlainWindow", L"plain",
-                               style | (parent != nullptr ? WS_CHILD : WS_OVERLAPPEDWINDOW), 0, 0,
-                               300, 200, parent,
-                               parent != nullptr ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id))
-                                                 : nullptr,
-                               GetModuleHandleW(nullptr), this);
+        hwnd = CreateWindowExW(
+            0, L"VuTestPlainWindow", L"plain",
+            style | (parent != nullptr ? WS_CHILD : WS_OVERLAPPEDWINDOW), 0, 0, 300, 200, parent,
+            parent != nullptr ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)) : nullptr,
+            GetModuleHandleW(nullptr), this);
     }
     ~PlainWindow() {
         if (hwnd != nullptr && IsWindow(hwnd))

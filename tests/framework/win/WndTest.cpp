@@ -55,9 +55,9 @@ TEST(WndMapTest, AttachIsPermanentAndOneToOneTemporaryWrappersArePerThread) {
     EXPECT_EQ(ProcedureOf(window.hwnd), vutest::PlainWindow::OwnProcedure()); // not subclassed
     EXPECT_FALSE(other.Attach(window.hwnd)); // one object per handle
     EXPECT_FALSE(wnd.Attach(window.hwnd));   // one handle per object
-    CWnd* seenByWorker = &wnd;
+    CWnd* seenByWorker = &wnd;               // another thread has maps of its own
     std::thread([&] { seenByWorker = CWnd::FromHandlePermanent(window.hwnd); }).join();
-    EXPECT_EQ(seenByWorker, nullptr) << "another thread has maps of its own";
+    EXPECT_EQ(seenByWorker, nullptr);
 
     EXPECT_EQ(wnd.Detach(), window.hwnd);
     EXPECT_EQ(CWnd::FromHandlePermanent(window.hwnd), nullptr);
