@@ -100,7 +100,8 @@ public:
         GetClientRect(hWnd, &rc);
         m_width = rc.right;
         m_height = rc.bottom;
-        BITMAPINFO bi{{sizeof(BITMAPINFOHEADER), m_width, -m_height, 1, 32}};
+        BITMAPINFO bi{{sizeof(BITMAPINFOHEADER), m_width, -m_height, 1, 32, BI_RGB, 0, 0, 0, 0, 0},
+                      {}};
         m_dc = CreateCompatibleDC(nullptr);
         m_bitmap = CreateDIBSection(m_dc, &bi, DIB_RGB_COLORS, reinterpret_cast<void**>(&m_bits),
                                     nullptr, 0);
