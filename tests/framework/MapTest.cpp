@@ -35,16 +35,17 @@ std::vector<K> KeysInOrder(const CMap<K, AK, V, AV>& map) {
 TEST(CMap, IterationGoesByBucketThenNewestKeyFirst) {
     // The bucket is the key shifted right by four, modulo 17.
     HandleMap m;
-    for (UINT_PTR k : {0x10, 0x20, 0x110, 0x120, 0x230}) { // buckets 1, 2, 0, 1, 1
+    for (UINT_PTR k : {0x10, 0x20, 0x110, 0x120, 0x230, 0x90}) { // buckets 1, 2, 0, 1, 1, 9
         HANDLE_T h = H(k);
         m[h] = 1;
     }
     EXPECT_EQ(m.GetHashTableSize(), 17u);
     EXPECT_EQ(KeysInOrder(m),
-              (std::vector<HANDLE_T>{H(0x110), H(0x230), H(0x120), H(0x10), H(0x20)}));
+              (std::vector<HANDLE_T>{H(0x110), H(0x230), H(0x120), H(0x10), H(0x20), H(0x90)}));
     HANDLE_T middle = H(0x120);
     EXPECT_TRUE(m.RemoveKey(middle)); // from the middle of a chain
-    EXPECT_EQ(KeysInOrder(m), (std::vector<HANDLE_T>{H(0x110), H(0x230), H(0x10), H(0x20)}));
+    EXPECT_EQ(KeysInOrder(m),
+              (std::vector<HANDLE_T>{H(0x110), H(0x230), H(0x10), H(0x20), H(0x90)}));
     int v = 0;
     EXPECT_FALSE(m.Lookup(middle, v));
 }
