@@ -20,8 +20,9 @@ struct Word {
 };
 // clang-format off
 const Word kWords[] = {{VU_T("Motor"), u8"Motor"}, {VU_T("a<b"), u8"a<b"}, {VU_T("R&D"), u8"R&D"},
-    {VU_T("\"it's\""), u8"\"it's\""}, {VU_T("x>y"), u8"x>y"}, {VU_T("Stra\u00dfe"), u8"Stra\u00dfe"},
-    {VU_T("tab\tcolumn"), u8"tab\tcolumn"}, {VU_T(""), u8""}, {VU_T("\U0001F600"), u8"\U0001F600"}};
+    {VU_T("\"it's\""), u8"\"it's\""}, {VU_T("x>y"), u8"x>y"},
+    {VU_T("Stra\u00dfe"), u8"Stra\u00dfe"}, {VU_T("tab\tcolumn"), u8"tab\tcolumn"},
+    {VU_T(""), u8""}, {VU_T("\U0001F600"), u8"\U0001F600"}};
 // clang-format on
 
 std::string Utf8Of(const CTreeNode* node) {
