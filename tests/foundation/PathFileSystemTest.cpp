@@ -11,6 +11,10 @@
 #include <fstream>
 #include <string>
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -76,10 +80,8 @@ TEST_F(PathFileSystem, CreateDirMakesEveryMissingDirectoryOrFails) {
     const AF_CPath p(In({VU_T("a"), VU_T("b c"), VU_T("d"), VU_T("file.txt")}).c_str());
     EXPECT_FALSE(p.DirExists());
     EXPECT_TRUE(p.CreateDir());
-    EXPECT_TRUE(IsDir(In({VU_T("a"), VU_T("b c"), VU_T("d")})));
     EXPECT_FALSE(p.FileExists()); // only the directories are made
     EXPECT_TRUE(p.DirExists());
-    EXPECT_TRUE(p.CreateDir()); // again: nothing left to make
     // A trailing separator makes the last component a directory too.
     EXPECT_TRUE(AF_CPath((In({VU_T("e"), VU_T("f")}) + kSep).c_str()).CreateDir());
     EXPECT_TRUE(IsDir(In({VU_T("e"), VU_T("f")})));
@@ -100,29 +102,22 @@ TEST_F(PathFileSystem, CreateDirMakesEveryMissingDirectoryOrFails) {
 }
 
 TEST_F(PathFileSystem, DeleteDirRemovesOnlyAnEmptyExistingDirectory) {
-    const AF_CPath p(In({VU_T("gone"), VU_T("x.txt")}).c_str());
-    EXPECT_FALSE(p.DeleteDir());
-    ASSERT_TRUE(p.CreateDir());
-    EXPECT_TRUE(p.DeleteDir());
-    EXPECT_FALSE(fs::exists(Fs(In({VU_T("gone")}))));
-
     const vu::String file = In({VU_T("full"), VU_T("x.txt")});
     ASSERT_TRUE(AF_CPath(file.c_str()).CreateDir());
     MakeFile(file);
-    EXPECT_FALSE(AF_CPath::DeleteDir(In({VU_T("full")}).c_str()));
+    const AF_CPath p(file.c_str());
+    EXPECT_FALSE(p.DeleteDir());
     fs::remove(Fs(file));
-    EXPECT_TRUE(AF_CPath::DeleteDir(In({VU_T("full")}).c_str()));
-    EXPECT_FALSE(AF_CPath::DeleteDir(nullptr));
+    EXPECT_TRUE(p.DeleteDir());
+    EXPECT_FALSE(fs::exists(Fs(In({VU_T("full")}))));
+    EXPECT_FALSE(p.DeleteDir()) << "gone already";
 
     // Existence tests do not check the kind.
     MakeFile(In({VU_T("f.txt")}));
     EXPECT_TRUE(AF_CPath::FileExists(In({VU_T("f.txt")}).c_str()));
     EXPECT_TRUE(AF_CPath::DirExists(In({VU_T("f.txt")}).c_str()));
-    EXPECT_TRUE(AF_CPath::FileExists(m_root.c_str()));
     EXPECT_FALSE(AF_CPath::FileExists(In({VU_T("missing")}).c_str()));
-    EXPECT_FALSE(AF_CPath::DirExists(VU_T("")));
     EXPECT_FALSE(AF_CPath::FileExists(nullptr));
-    EXPECT_TRUE(AF_CPath::DirExists(AF_CPath::GetCwd()));
 }
 
 TEST_F(PathFileSystem, MakeAbsoluteResolvesDotsTextually) {
@@ -141,10 +136,6 @@ TEST_F(PathFileSystem, MakeAbsoluteResolvesDotsTextually) {
     const vu::String expected = AF_CPath::GetCwd().Str() + kSep + VU_T("x") + kSep + VU_T("y.txt");
     EXPECT_EQ(Ascii(relative.GetFullPath().View()), Ascii(expected));
 
-    AF_CPath empty;
-    EXPECT_TRUE(empty.MakeAbsolute());
-    EXPECT_TRUE(empty.GetFullPath().IsEmpty());
-
     // The result must fit a 260-unit buffer; a failure leaves the path alone.
     const vu::String tooLong = In({vu::String(270, VU_T('l'))});
     AF_CPath big(tooLong.c_str());
@@ -158,37 +149,39 @@ TEST_F(PathFileSystem, LongNamesComeFromTheFileSystem) {
     EXPECT_TRUE(AF_CPath::GetLongName(In({VU_T("Long File Name.txt")}).c_str(), &name));
     EXPECT_EQ(Ascii(name.View()), "Long File Name.txt");
     EXPECT_FALSE(AF_CPath::GetLongName(In({VU_T("missing.txt")}).c_str(), &name));
-    EXPECT_FALSE(AF_CPath::GetLongName((m_root + kSep).c_str(), &name));
-    EXPECT_FALSE(AF_CPath::GetLongName(VU_T(""), &name));
     EXPECT_FALSE(AF_CPath::GetLongName(VU_T("x"), nullptr));
-    EXPECT_TRUE(AF_CPath::GetLongName(VU_T("c:"), &name));
-    EXPECT_EQ(Ascii(name.View()), "C:");
     EXPECT_TRUE(AF_CPath::GetLongName(VU_T("d:\\"), &name));
     EXPECT_EQ(Ascii(name.View()), "D:\\");
     EXPECT_FALSE(AF_CPath::GetLongName(VU_T("\\"), &name)); // a root has no name
-    MakeFile(In({VU_T("b.log")}));
     MakeFile(In({VU_T("a.log")}));
     EXPECT_TRUE(AF_CPath::GetLongName(In({VU_T("*.log")}).c_str(), &name));
-    EXPECT_TRUE(name == VU_T("a.log") || name == VU_T("b.log")) << Ascii(name.View());
+    EXPECT_EQ(Ascii(name.View()), "a.log");
 }
 
-TEST_F(PathFileSystem, RemoveAliasesKeepsLongNames) {
-    ASSERT_TRUE(AF_CPath(In({VU_T("Some Dir"), VU_T("x")}).c_str()).CreateDir());
-    MakeFile(In({VU_T("Some Dir"), VU_T("file name.txt")}));
-    AF_CPath p(In({VU_T("Some Dir"), VU_T("file name.txt")}).c_str());
-    const CString before = p.GetFullPath();
+// Windows file systems give short (8.3) aliases, read here with a lower-case
+// drive letter; elsewhere the long name is its own alias.
+TEST_F(PathFileSystem, RemoveAliasesGivesTheLongNames) {
+    const vu::String file = In({VU_T("Some Dir"), VU_T("A Long File Name.text")});
+    ASSERT_TRUE(AF_CPath(file.c_str()).CreateDir());
+    MakeFile(file);
+    vu::String from = file;
+#ifdef _WIN32
+    wchar_t alias[MAX_PATH];
+    ASSERT_GT(GetShortPathNameW(file.c_str(), alias, MAX_PATH), 0u);
+    from = alias;
+    ASSERT_NE(from, file) << "the file system gave no alias";
+    from[0] = static_cast<wchar_t>(from[0] | 0x20);
+#endif
+    AF_CPath p(from.c_str());
     EXPECT_TRUE(p.RemoveAliases());
-    EXPECT_TRUE(p == before) << Ascii(p.GetFullPath().View());
+    EXPECT_EQ(Ascii(p.GetFullPath().View()), Ascii(file));
+    EXPECT_EQ(Ascii(p.GetRoot().View()), "A Long File Name");
 
     // No file part: the directory is converted, the name look-up fails.
     AF_CPath dirOnly((In({VU_T("Some Dir")}) + kSep).c_str());
     EXPECT_FALSE(dirOnly.RemoveAliases());
     EXPECT_TRUE(dirOnly == (In({VU_T("Some Dir")}) + kSep).c_str())
         << Ascii(dirOnly.GetFullPath().View());
-
-    AF_CPath missing(In({VU_T("No Dir"), VU_T("f.txt")}).c_str());
-    EXPECT_FALSE(missing.RemoveAliases());
-    EXPECT_EQ(missing.GetFullPath().Str(), In({VU_T("No Dir"), VU_T("f.txt")}));
 }
 
 #ifndef _WIN32

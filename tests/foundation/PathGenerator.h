@@ -57,27 +57,13 @@ private:
     }
 
     vu::String Prefix() {
-        static const WCHAR* const prefixes[] = {VU_T(""),
-                                                VU_T("C:"),
-                                                VU_T("c:"),
-                                                VU_T("z:\\"),
-                                                VU_T("C:/"),
-                                                VU_T("1:"),
-                                                VU_T(":"),
-                                                VU_T("::"),
-                                                VU_T("\\:"),
-                                                VU_T(".:"),
-                                                VU_T("\\\\"),
-                                                VU_T("\\\\srv\\share\\"),
-                                                VU_T("//srv/share/"),
-                                                VU_T("\\"),
-                                                VU_T("/"),
-                                                VU_T(".\\"),
-                                                VU_T("..\\"),
-                                                VU_T("../"),
-                                                VU_T("\\\\?\\C:\\"),
-                                                VU_T("\u00e9:"),
-                                                VU_T("C:\\\\")};
+        // clang-format off
+        static const WCHAR* const prefixes[] = {
+            VU_T(""), VU_T("C:"), VU_T("c:"), VU_T("z:\\"), VU_T("C:/"), VU_T("1:"), VU_T(":"),
+            VU_T("::"), VU_T("\\:"), VU_T(".:"), VU_T("\\\\"), VU_T("\\\\srv\\share\\"),
+            VU_T("//srv/share/"), VU_T("\\"), VU_T("/"), VU_T(".\\"), VU_T("..\\"), VU_T("../"),
+            VU_T("\\\\?\\C:\\"), VU_T("\u00e9:"), VU_T("C:\\\\")};
+        // clang-format on
         return prefixes[Pick(0, static_cast<int>(std::size(prefixes)) - 1)];
     }
 
@@ -88,29 +74,22 @@ private:
     }
 
     vu::String Component() {
+        // clang-format off
         switch (Pick(0, 9)) {
-        case 0:
-            return VU_T(".");
-        case 1:
-            return VU_T("..");
-        case 2:
-            return Cat({Word(Pick(1, 8)), VU_T("."), Word(Pick(0, 4))});
-        case 3:
-            return Cat({VU_T("."), Word(Pick(1, 5))});
-        case 4:
-            return Cat({Word(Pick(1, 6)), VU_T(".")});
+        case 0: return VU_T(".");
+        case 1: return VU_T("..");
+        case 2: return Cat({Word(Pick(1, 8)), VU_T("."), Word(Pick(0, 4))});
+        case 3: return Cat({VU_T("."), Word(Pick(1, 5))});
+        case 4: return Cat({Word(Pick(1, 6)), VU_T(".")});
         case 5:
-            return Cat(
-                {Word(Pick(1, 4)), VU_T("."), Word(Pick(1, 4)), VU_T("."), Word(Pick(0, 3))});
-        case 6: // around 255 units
-            return Word(Pick(245, 262));
-        case 7:
-            return Cat({Word(Pick(120, 140)), VU_T("."), Word(Pick(110, 140))});
-        case 8:
-            return Cat({Word(Pick(1, 3)), VU_T("."), Word(Pick(250, 258))});
-        default:
-            return Word(Pick(1, 12));
+            return Cat({Word(Pick(1, 4)), VU_T("."), Word(Pick(1, 4)), VU_T("."),
+                        Word(Pick(0, 3))});
+        case 6: return Word(Pick(245, 262)); // around 255 units
+        case 7: return Cat({Word(Pick(120, 140)), VU_T("."), Word(Pick(110, 140))});
+        case 8: return Cat({Word(Pick(1, 3)), VU_T("."), Word(Pick(250, 258))});
+        default: return Word(Pick(1, 12));
         }
+        // clang-format on
     }
 
     vu::String Word(int length) {

@@ -34,59 +34,24 @@ std::string Fields(const AF_CPath& p) {
            Ascii(p.GetShare());
 }
 
-// The splitter's own rules (dots, extensions) are compared with the C
-// runtime under Wine; these rows are the path class's rules on top.
-TEST(Path, SplitsIntoItsFields) {
+// The generated paths below decide the split in both builds; parts longer
+// than the generator makes are kept whole.
+TEST(Path, SplitKeepsLongPartsWhole) {
     const vu::String longDir = VU_T("C:\\") + vu::String(300, VU_T('d')) + VU_T("\\f.txt");
-    struct Row {
-        vu::String path;
-        std::string fields;
-    } rows[] = {
-        {VU_T("  C:\\Work\\Project.ACD  "), "C|\\Work|Project|ACD|C:\\Work\\Project.ACD||"},
-        {VU_T("C:\\"), "C|\\|||C:\\||"},
-        {VU_T("C:"), "C||||C:||"},
-        {VU_T("c:file.txt"), "c||file|txt|c:file.txt||"},
-        {VU_T("\\\\srv\\share\\dir\\f.txt"),
-         "|\\\\srv\\share\\dir|f|txt|\\\\srv\\share\\dir\\f.txt|srv|share"},
-        {VU_T("\\\\srv\\share"), "|\\\\srv|share||\\\\srv\\share|srv|share"},
-        {VU_T("\\\\srv"), "|\\|srv||\\\\srv|srv|"},
-        {VU_T("C:\\a\\\\b\\\\"), "C|\\a\\\\b\\|||C:\\a\\\\b\\\\||"},
-        {VU_T("name."), "||name||name.||"},
-        {VU_T("1:x"), "||x||1:x||"}, // not a drive letter
-        {VU_T("\t \t"), "||||||"},
-        // Parts of any length are kept whole.
-        {longDir, "C|" + Ascii(longDir.substr(2, 301)) + "|f|txt|" + Ascii(longDir) + "||"},
-        // Only '\\' ends a directory in the path rules, on every platform.
-        {VU_T("C:/a/b/f.txt"), "C|/a/b/|f|txt|C:/a/b/f.txt||"},
-        {VU_T("/tmp/x.d/f"), "|/tmp/x.d/|f||/tmp/x.d/f||"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(Ascii(row.path));
-        EXPECT_EQ(Fields(AF_CPath(row.path.c_str())), row.fields);
-    }
+    EXPECT_EQ(Fields(AF_CPath(longDir.c_str())),
+              "C|" + Ascii(longDir.substr(2, 301)) + "|f|txt|" + Ascii(longDir) + "||");
 }
 
 TEST(Path, DerivedNamesAndResetting) {
-    EXPECT_EQ(Ascii(AF_CPath(VU_T("C:\\")).GetDriveDir()), "C:\\");
-    EXPECT_EQ(Ascii(AF_CPath(VU_T("C:\\a\\b\\f")).GetDriveDir()), "C:\\a\\b");
-    EXPECT_EQ(Ascii(AF_CPath(VU_T("a\\f")).GetDriveDir()), "a");
-    EXPECT_EQ(Ascii(AF_CPath(VU_T("C:\\a\\name")).GetName()), "name.");
     EXPECT_EQ(Ascii(AF_CPath().GetName()), ".");
     vu::String part = VU_T("stale");
     EXPECT_FALSE(vu::SplitPath(nullptr, &part, &part, &part, &part));
     EXPECT_EQ(part, VU_T(""));
-
     AF_CPath p(VU_T("\\\\m\\s\\f.txt"));
     p.SetPath(nullptr);
-    p.SetPath(VU_T(""));
     EXPECT_EQ(Fields(p), "|\\\\m\\s|f|txt|\\\\m\\s\\f.txt|m|s");
-    p = VU_T("C:\\x");
-    EXPECT_EQ(Fields(p), "C|\\|x||C:\\x||");
     p = VU_T("");
     EXPECT_EQ(Fields(p), "||||||");
-    AF_CPath copy(VU_T("D:\\q\\r.s"));
-    p = copy;
-    EXPECT_EQ(Fields(p), Fields(copy));
 }
 
 TEST(Path, SettersRebuildTheFullPath) {
@@ -99,25 +64,15 @@ TEST(Path, SettersRebuildTheFullPath) {
         const WCHAR* start = VU_T("C:\\a\\f.txt");
     } rows[] = {
         {"ext with dot", &AF_CPath::SetExt, VU_T(".log"), "C|\\a|f|log|C:\\a\\f.log||"},
-        {"ext without dot", &AF_CPath::SetExt, VU_T(" log "), "C|\\a|f|log|C:\\a\\f.log||"},
-        {"empty ext", &AF_CPath::SetExt, VU_T(""), "C|\\a|f||C:\\a\\f||"},
         {"root less one dot", &AF_CPath::SetRoot, VU_T("g.."), "C|\\a|g.|txt|C:\\a\\g..txt||"},
         {"drive letter", &AF_CPath::SetDrive, VU_T(" de "), "d|\\a|f|txt|d:\\a\\f.txt||"},
-        {"no drive", &AF_CPath::SetDrive, VU_T(""), "|\\a|f|txt|\\a\\f.txt||"},
         {"drive clears machine", &AF_CPath::SetDrive, VU_T("E"), "E|\\\\m\\s|f||E:\\\\m\\s\\f||",
          VU_T("\\\\m\\s\\f")},
         {"dir less one separator", &AF_CPath::SetDir, VU_T("\\x\\y\\\\"),
          "C|\\x\\y\\|f|txt|C:\\x\\y\\f.txt||"},
-        {"root dir", &AF_CPath::SetDir, VU_T("\\"), "C|\\|f|txt|C:\\f.txt||"},
         {"UNC dir", &AF_CPath::SetDir, VU_T("\\\\m\\s\\d"),
          "|\\\\m\\s\\d|f|txt|\\\\m\\s\\d\\f.txt|m|s", VU_T("f.txt")},
-        {"drive and dir", &AF_CPath::SetDriveDir, VU_T(" D:\\p\\q "),
-         "D|\\p\\q|f|txt|D:\\p\\q\\f.txt||"},
-        {"empty drive and dir", &AF_CPath::SetDriveDir, VU_T(""), "||f|txt|f.txt||"},
-        {"UNC drive and dir", &AF_CPath::SetDriveDir, VU_T("\\\\m\\s"),
-         "|\\\\m\\s|f|txt|\\\\m\\s\\f.txt|m|s"},
         {"name", &AF_CPath::SetName, VU_T("g.h.i"), "C|\\a|g.h|i|C:\\a\\g.h.i||"},
-        {"name without ext", &AF_CPath::SetName, VU_T("g"), "C|\\a|g||C:\\a\\g||"},
         {"null is ignored", &AF_CPath::SetDir, nullptr, "C|\\a|f|txt|C:\\a\\f.txt||"},
     };
     for (const auto& row : rows) {
@@ -130,8 +85,6 @@ TEST(Path, SettersRebuildTheFullPath) {
     AF_CPath p(VU_T("C:\\a\\f.txt"));
     p.SetDriveDir((VU_T("D:\\") + vu::String(258, VU_T('x'))).c_str()); // 261 units: ignored
     EXPECT_EQ(Ascii(p.GetFullPath()), "C:\\a\\f.txt");
-    p.SetDir(VU_T("rel"));
-    EXPECT_EQ(Ascii(p.GetFullPath()), "C:rel\\f.txt");
 
     // An overlong directory survives every setter.
     const vu::String longDir = vu::String(VU_T("\\")).append(300, VU_T('d'));
@@ -143,12 +96,9 @@ TEST(Path, SettersRebuildTheFullPath) {
 
 TEST(Path, ComparesFullPathsCaseBlind) {
     const AF_CPath p(VU_T("C:\\Work\\Project.ACD"));
-    EXPECT_TRUE(p == AF_CPath(VU_T("c:\\work\\project.acd")));
     EXPECT_TRUE(p == VU_T("  c:\\WORK\\project.acd\t"));
     EXPECT_TRUE(CString(VU_T(" C:\\Work\\Project.ACD")) == p);
-    EXPECT_TRUE(p != VU_T("C:\\Work\\Project.ACE"));
     EXPECT_TRUE(p != CString(VU_T("C:\\Work")));
-    EXPECT_FALSE(p != AF_CPath(p));
 }
 
 TEST(Path, RecognisesMachineAndShareNames) {
@@ -156,17 +106,8 @@ TEST(Path, RecognisesMachineAndShareNames) {
         const WCHAR* path;
         BOOL unc, machine, share;
     } rows[] = {
-        {VU_T("\\\\srv\\"), TRUE, TRUE, FALSE},
-        {VU_T("\\\\srv"), TRUE, TRUE, FALSE},
-        {VU_T("\\\\"), TRUE, TRUE, FALSE},
-        {VU_T("\\\\srv\\x"), TRUE, FALSE, TRUE},
         {VU_T("\\\\srv\\share\\"), TRUE, FALSE, TRUE},
-        {VU_T("\\\\srv\\share\\x"), TRUE, FALSE, FALSE},
-        {VU_T("\\\\srv\\share\\\\"), TRUE, FALSE, FALSE},
-        {VU_T("\\\\\\share"), TRUE, FALSE, FALSE},
-        {VU_T("\\\\srv\\\\"), TRUE, FALSE, FALSE},
         {VU_T(" \\\\srv "), FALSE, TRUE, FALSE}, // the name tests trim, the UNC test does not
-        {VU_T("C:\\srv"), FALSE, FALSE, FALSE},
         {VU_T("//srv/share"), FALSE, FALSE, FALSE},
         {nullptr, FALSE, FALSE, FALSE},
     };
@@ -180,40 +121,16 @@ TEST(Path, RecognisesMachineAndShareNames) {
 
 // ---- The prefix walk ---------------------------------------------------------
 
-// Every step of a walk as "item" or "item!" when Done after it, up to the
-// step that ends it: the first item, then each ++.
-std::string Walk(AF_CPathIterator& it) {
-    std::string out = Ascii(vu::StringView(it.First()));
-    for (int guard = 0; !it.Done() && guard < 300; ++guard) {
-        out += ' ';
-        out += Ascii(it++);
-    }
-    return out + (it.Done() ? "!" : "");
-}
-
-TEST(PathIterator, WalksGrowingPrefixes) {
-    struct Row {
-        vu::String path;
-        std::string walk;
-    } rows[] = {
-        // clang-format off
-        {VU_T("c:\\a\\b"), "c:\\ c:\\a c:\\a\\b !"}, {VU_T("c:\\a\\b\\"), "c:\\ c:\\a c:\\a\\b !"},
-        {VU_T("c:\\"), "c:\\!"}, {VU_T("c:"), "c:\\!"},
-        {VU_T("c:\\a\\\\b"), "c:\\ c:\\a c:\\a\\ c:\\a\\\\b !"},
-        {VU_T("\\\\srv\\share\\dir"), "\\\\srv\\ \\\\srv\\share \\\\srv\\share\\dir !"},
-        {VU_T("\\\\srv"), "\\\\srv\\!"}, {VU_T("ab\\cd"), "ab\\ ab\\cd !"}, {VU_T("a"), "!"},
-        {VU_T(""), "!"},
-        {VU_T("/usr/lib"), "/us /usr/lib !"}, // only '\\' separates, on every platform
-        {VU_T("c:/a"), "c:/ c:/a !"},
-        // clang-format on
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(std::string(row.path.begin(), row.path.end()));
-        AF_CPathIterator it(row.path.c_str());
-        EXPECT_EQ(Walk(it), row.walk);
-        EXPECT_EQ(Ascii(it++), ""); // stays empty once done
-        EXPECT_TRUE(it.Done());
-    }
+// The walk itself is decided by the generated paths below; one step past the
+// last prefix ends it, and it stays empty once done.
+TEST(PathIterator, StaysDoneOnceDone) {
+    AF_CPathIterator it(VU_T("c:\\a"));
+    EXPECT_EQ(vu::String(it.First()), VU_T("c:\\"));
+    EXPECT_EQ(vu::String(it++), VU_T("c:\\a"));
+    EXPECT_EQ(Ascii(it++), "");
+    EXPECT_TRUE(it.Done());
+    EXPECT_EQ(Ascii(it++), "");
+    EXPECT_TRUE(it.Done());
 }
 
 // Every path shorter than 261 units is walked, with or without its

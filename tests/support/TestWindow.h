@@ -16,16 +16,29 @@ struct ReceivedMessage {
     LPARAM lParam;
 };
 
+// Registers a window class once per name.
+inline void RegisterOnce(const wchar_t* name, WNDPROC proc) {
+    WNDCLASSW wc{};
+    if (GetClassInfoW(GetModuleHandleW(nullptr), name, &wc))
+        return;
+    wc.lpfnWndProc = proc;
+    wc.hInstance = GetModuleHandleW(nullptr);
+    wc.lpszClassName = name;
+    wc.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+    RegisterClassW(&wc);
+}
+
 class PlainWindow {
 public:
     // A hidden top-level window, or a child of parent when given.
     explicit PlainWindow(HWND parent = nullptr, DWORD style = 0, int id = 0) {
-        RegisterClassOnce();
-        DWORD fullStyle = style | (parent != nullptr ? WS_CHILD : WS_OVERLAPPEDWINDOW);
-        hwnd = CreateWindowExW(0, ClassName(), L"plain", fullStyle, 0, 0, 300, 200, parent,
-                               parent != nullptr ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id))
-                                                 : nullptr,
-                               GetModuleHandleW(nullptr), this);
+        RegisterOnce(L"VuTestPlainWindow", &PlainWindow::Proc);
+        hwnd = CreateWindowExW(
+            0, L"VuTestPlainWindow", L"plain",
+            style | (parent != nullptr ? WS_CHILD : WS_OVERLAPPEDWINDOW), 0, 0, 300, 200, parent,
+            parent != nullptr ? reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)) : nullptr,
+            GetModuleHandleW(nullptr), this);
     }
     ~PlainWindow() {
         if (hwnd != nullptr && IsWindow(hwnd))
@@ -52,26 +65,11 @@ public:
     std::function<bool(UINT, WPARAM, LPARAM, LRESULT*)> onMessage;
 
 private:
-    static const wchar_t* ClassName() { return L"VuTestPlainWindow"; }
-
-    static void RegisterClassOnce() {
-        static bool registered = false;
-        if (registered)
-            return;
-        WNDCLASSW wc{};
-        wc.lpfnWndProc = &PlainWindow::Proc;
-        wc.hInstance = GetModuleHandleW(nullptr);
-        wc.lpszClassName = ClassName();
-        wc.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-        registered = RegisterClassW(&wc) != 0;
-    }
-
     static LRESULT CALLBACK Proc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_NCCREATE) {
-            auto* cs = reinterpret_cast<CREATESTRUCTW*>(lParam);
-            SetWindowLongPtrW(hWnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(cs->lpCreateParams));
-        }
+        if (message == WM_NCCREATE)
+            SetWindowLongPtrW(hWnd, GWLP_USERDATA,
+                              reinterpret_cast<LONG_PTR>(
+                                  reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
         auto* self = reinterpret_cast<PlainWindow*>(GetWindowLongPtrW(hWnd, GWLP_USERDATA));
         if (self == nullptr)
             return DefWindowProcW(hWnd, message, wParam, lParam);
@@ -79,8 +77,7 @@ private:
         LRESULT result = 0;
         if (self->onMessage && self->onMessage(message, wParam, lParam, &result))
             return result;
-        auto it = self->answers.find(message);
-        if (it != self->answers.end())
+        if (auto it = self->answers.find(message); it != self->answers.end())
             return it->second;
         if (message == WM_NCDESTROY)
             self->hwnd = nullptr;
@@ -94,14 +91,9 @@ private:
 // painting put their (plain, child) parent windows on this stage.
 inline HWND Stage() {
     static HWND stage = [] {
-        WNDCLASSW wc{};
-        wc.lpfnWndProc = DefWindowProcW;
-        wc.hInstance = GetModuleHandleW(nullptr);
-        wc.lpszClassName = L"VuTestStage";
-        wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-        RegisterClassW(&wc);
+        RegisterOnce(L"VuTestStage", DefWindowProcW);
         return CreateWindowExW(0, L"VuTestStage", L"stage", WS_POPUP | WS_VISIBLE, 0, 0, 640, 480,
-                               nullptr, nullptr, wc.hInstance, nullptr);
+                               nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     }();
     return stage;
 }

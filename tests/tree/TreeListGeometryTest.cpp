@@ -13,13 +13,10 @@ TEST(TreeListGeometry, ScrollAdvancesOneRowPerWholePage) {
         const char* name;
         int top, row, height, client, expected;
     } rows[] = {
-        {"inside the first page", 0, 9, 16, 160, 0},
         {"15 below the top of a 10-row page", 5, 20, 16, 160, 6},
-        {"exactly one page below", 0, 10, 16, 160, 1},
         {"above the top truncates toward zero", 20, 5, 16, 160, 19},
         {"partial page counts whole rows only", 0, 30, 16, 175, 3},
         {"zero row height", 4, 100, 0, 160, 4},
-        {"client smaller than a row", 4, 100, 16, 10, 4},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -41,15 +38,10 @@ TEST(TreeListGeometry, KeyboardStepsOverHeadersAndSeparators) {
         bool swallow;
         int preselect;
     } rows[] = {
-        {"down onto a normal row", "nnn", 0, 1, false, -1},
         {"down over header and separator", "nhsn", 0, 1, false, 2},
         {"down before a trailing run", "nnss", 1, 1, true, -1},
-        {"down on the last row", "nnn", 2, 1, false, -1},
-        {"up over a separator", "nsn", 2, -1, false, 1},
         {"up with headers up to row 0", "hsn", 2, -1, true, -1},
-        {"up on row 0", "nn", 0, -1, false, -1},
         {"no selection", "nhn", -1, 1, false, -1},
-        {"selection past the end", "nhn", 3, 1, false, -1},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
@@ -65,11 +57,9 @@ TEST(TreeListGeometry, SplitColumnsLikeWcstok) {
         std::vector<vu::String> parts;
     } rows[] = {
         {VU_T(""), {}},
-        {VU_T("Motor"), {VU_T("Motor")}},
         {VU_T("Motor\tBOOL\tStart button"), {VU_T("Motor"), VU_T("BOOL"), VU_T("Start button")}},
         {VU_T("a\t\tb"), {VU_T("a"), VU_T("b")}},
         {VU_T("\ta\t"), {VU_T("a")}},
-        {VU_T("\t\t"), {}},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(std::string(r.text, r.text + vu::StringView(r.text).size()));
@@ -84,7 +74,6 @@ TEST(TreeListGeometry, ColumnStartsFollowTheTabStops) {
     EXPECT_EQ((std::vector<int>{0, 66, 198}), ColumnStarts(3, {11, 33}, 6));
     EXPECT_EQ((std::vector<int>{0, 66, 198, 330}), ColumnStarts(4, {11, 33}, 6))
         << "past the last stop, the last spacing repeats";
-    EXPECT_EQ((std::vector<int>{0, 8, 16}), ColumnStarts(3, {}, 1));
     EXPECT_EQ((std::vector<int>{0, 50, 90}), ColumnStarts(3, {10, 4}, 5))
         << "a stop left of the previous one gives its column the default spacing";
     EXPECT_EQ((std::vector<int>{0, 50, 90}), ColumnStarts(3, {10, 10}, 5)) << "equal stops";
@@ -92,7 +81,6 @@ TEST(TreeListGeometry, ColumnStartsFollowTheTabStops) {
     const std::vector<int> starts{0, 66, 198};
     EXPECT_EQ(0, ColumnAt(65, starts));
     EXPECT_EQ(1, ColumnAt(66, starts));
-    EXPECT_EQ(2, ColumnAt(1000, starts));
     EXPECT_EQ(-1, ColumnAt(-1, starts));
 }
 
@@ -104,12 +92,9 @@ TEST(TreeListGeometry, FitTextKeepsTheLongestPrefixWithTheMarker) {
         int width;
         vu::String expected;
     } rows[] = {
-        {"fits", VU_T("Motor"), 25, VU_T("Motor")},
         {"one pixel short", VU_T("Motors"), 29, VU_T(" ... ")},
         {"prefix and marker", VU_T("Conveyor_Speed"), 45, VU_T("Conv ... ")},
-        {"only the marker", VU_T("Conveyor"), 25, VU_T(" ... ")},
         {"not even the marker", VU_T("Conveyor"), 24, VU_T("")},
-        {"empty text", VU_T(""), 0, VU_T("")},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);

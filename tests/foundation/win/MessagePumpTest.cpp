@@ -56,7 +56,7 @@ protected:
     }
     void TearDown() override {
         wnd.UnsubclassWindow();
-        VuSetHostServices(previous);
+        EXPECT_EQ(VuSetHostServices(previous), &services); // the installed set is handed back
         vutest::DrainQueue();
     }
 
@@ -98,10 +98,6 @@ TEST_F(MessagePumpTest, QuitEndsThePumpAndIsPostedAgain) {
     EXPECT_EQ(msg.message, static_cast<UINT>(WM_QUIT));
     EXPECT_EQ(msg.wParam, 7u);
 
-    PostQuitMessage(3);
-    EXPECT_FALSE(VuInternalPumpMessage());
-    EXPECT_EQ(AfxGetThreadState()->m_msgCur.message, static_cast<UINT>(WM_QUIT));
-
     // Waiting for the quit itself succeeds, and the quit is posted again.
     PostQuitMessage(9);
     EXPECT_TRUE(VuWaitForMessage(nullptr, WM_QUIT, WM_QUIT, 1));
@@ -118,12 +114,6 @@ TEST_F(MessagePumpTest, KickIdleIsNeitherTranslatedNorDispatched) {
     EXPECT_EQ(window.Count(WM_KICKIDLE), 0);
     // The pump keeps the latest trace.
     EXPECT_NE(S(VuGetLastPumpTrace()).find(L"0x0000036a - WM_KICKIDLE"), std::wstring::npos);
-
-    // Any other message goes the whole way.
-    PostMessageW(window.hwnd, WM_APP + 4, 0, 0);
-    EXPECT_TRUE(VuInternalPumpMessage());
-    EXPECT_EQ(wnd.preTranslated, std::vector<UINT>{WM_APP + 4});
-    EXPECT_EQ(window.Count(WM_APP + 4), 1);
 }
 
 TEST_F(MessagePumpTest, ControlNotificationIsAuditedAndDelayed) {
@@ -145,42 +135,28 @@ TEST_F(MessagePumpTest, ControlNotificationIsAuditedAndDelayed) {
     // The entry is written before the pause; the pause comes before dispatch.
     EXPECT_GE(dispatchedAt - entry.atMs, 140.0);
     EXPECT_LT(entry.atMs - start, 100.0);
-    RecordProperty("control_notification_pause_ms", std::to_string(dispatchedAt - entry.atMs));
 }
 
 // ---- waiting for one message -------------------------------------------------
 
-TEST_F(MessagePumpTest, WaitForMessageSucceedsWhenTheMessageIsThereOrComes) {
-    PostMessageW(window.hwnd, WM_APP + 7, 0, 0);
-    double start = vutest::NowMs();
-    EXPECT_TRUE(VuWaitForMessage(window.hwnd, WM_APP + 7, WM_APP + 7, 5));
-    EXPECT_LT(vutest::NowMs() - start, 1000.0);
-    EXPECT_EQ(window.Count(WM_APP + 7), 1);
-    EXPECT_EQ(services.begins, 1);
-    EXPECT_EQ(services.ends, 1);
-
+TEST_F(MessagePumpTest, WaitForMessageSucceedsWhenTheMessageComesAndTimesOutOtherwise) {
     SetTimer(window.hwnd, 1, 200, nullptr);
-    start = vutest::NowMs();
+    double start = vutest::NowMs();
     EXPECT_TRUE(VuWaitForMessage(window.hwnd, WM_TIMER, WM_TIMER, 5));
     const double waited = vutest::NowMs() - start;
     KillTimer(window.hwnd, 1);
     EXPECT_GE(waited, 150.0);
     EXPECT_LT(waited, 3000.0);
     EXPECT_EQ(window.Count(WM_TIMER), 1);
-}
 
-TEST_F(MessagePumpTest, WaitForMessageTimesOut) {
     vutest::PlainWindow other;
     PostMessageW(other.hwnd, WM_APP + 8, 0, 0); // another window's message does not count
-    const double start = vutest::NowMs();
+    start = vutest::NowMs();
     EXPECT_FALSE(VuWaitForMessage(window.hwnd, WM_APP + 8, WM_APP + 8, 1));
-    const double waited = vutest::NowMs() - start;
-    EXPECT_GE(waited, 990.0);
-    EXPECT_LT(waited, 3000.0);
+    EXPECT_GE(vutest::NowMs() - start, 990.0);
     EXPECT_EQ(other.Count(WM_APP + 8), 0); // and is left in the queue
-    EXPECT_EQ(services.begins, 1);
-    EXPECT_EQ(services.ends, 1);
-    RecordProperty("timeout_1s_waited_ms", std::to_string(waited));
+    EXPECT_EQ(services.begins, 2);
+    EXPECT_EQ(services.ends, 2);
 }
 
 // ---- trace description ---------------------------------------------------------
@@ -205,22 +181,13 @@ TEST(MessageTraceTest, FullDescriptionSameAndWindowText) {
     EXPECT_EQ(S(VuDescribeMessage(msg)), S(expected));
     EXPECT_EQ(S(VuDescribeMessage(msg)), L"same");
 
-    // Any one of the seven fields makes it new again.
-    MSG changed = msg;
-    changed.pt.y = 0;
-    EXPECT_NE(S(VuDescribeMessage(changed)), L"same");
-    EXPECT_EQ(S(VuDescribeMessage(changed)), L"same");
-
-    // A real window shows its text once the framework knows it; the hwnd and
-    // then the time make the message new.
+    // A window the framework knows shows its text; a new hwnd makes the message new.
     vutest::PlainWindow window;
     SetWindowTextW(window.hwnd, L"Rung 12");
-    changed.hwnd = window.hwnd;
-    EXPECT_NE(S(VuDescribeMessage(changed)).find(L"Text     = Unavailable"), std::wstring::npos);
     CWnd wnd;
     ASSERT_TRUE(wnd.Attach(window.hwnd));
-    changed.time += 1;
-    EXPECT_NE(S(VuDescribeMessage(changed)).find(L"Text     = Rung 12\n"), std::wstring::npos);
+    msg.hwnd = window.hwnd;
+    EXPECT_NE(S(VuDescribeMessage(msg)).find(L"Text     = Rung 12\n"), std::wstring::npos);
     wnd.Detach();
 }
 

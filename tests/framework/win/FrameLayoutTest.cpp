@@ -1,5 +1,6 @@
 // The frame substrate on real windows: bars and the pane laid out through
-// WM_SIZEPARENT, layout queries, idle updates, the active view.
+// WM_SIZEPARENT, layout queries and idle updates (the active view is
+// exercised by the tab window's panes).
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -73,22 +74,6 @@ TEST(FrameLayoutTest, BarsTakeTheirSidesAndThePaneGetsTheRest) {
     frame.UpdateControlBars();
     EXPECT_EQ(std::vector<CFrameWnd*>{&frame}, top.updatedFor);
     EXPECT_TRUE(hidden.updatedFor.empty()) << "hidden bars are not updated";
-}
-
-// The order of the activation calls is checked with the tab window's panes.
-TEST(FrameLayoutTest, ClicksAndDestructionMoveTheActiveView) {
-    CFrameWnd frame;
-    CreateFrame(frame, 300, 200);
-    CView a, b;
-    ASSERT_TRUE(a.Create(nullptr, L"a", WS_CHILD | WS_VISIBLE, CRect(0, 0, 99, 99), &frame, 1));
-    ASSERT_TRUE(b.Create(nullptr, L"b", WS_CHILD | WS_VISIBLE, CRect(99, 0, 199, 99), &frame, 2));
-    frame.SetActiveView(&a);
-    EXPECT_EQ(a.m_hWnd, ::GetFocus()) << "an activated view takes the focus";
-    ::SendMessageW(b.m_hWnd, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(frame.m_hWnd),
-                   MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
-    EXPECT_EQ(&b, frame.GetActiveView()) << "a click activates the clicked view";
-    b.DestroyWindow();
-    EXPECT_EQ(nullptr, frame.GetActiveView()) << "a destroyed view leaves the frame";
 }
 
 } // namespace

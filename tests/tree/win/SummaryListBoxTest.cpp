@@ -1,5 +1,4 @@
-// The summary list box on a real window: its rows, texts, scroll bar test
-// and what it draws.
+// The summary list box on a real window: its rows, texts and what it draws.
 #include "TreeFixture.h"
 
 #include "tree/win/SummaryListBox.h"
@@ -21,8 +20,6 @@ protected:
 TEST_F(SummaryTest, LinesAndTheirTexts) {
     EXPECT_EQ(0, list.AddItem(CString(L"Controller"), true));
     EXPECT_EQ(1, list.AddItem(CString(L"Name: Line_3"), false));
-    EXPECT_EQ(CString(L"Name: Line_3"), list.GetDisplayText(1));
-    EXPECT_TRUE(list.GetDisplayText(-1).IsEmpty());
     EXPECT_TRUE(list.GetDisplayText(2).IsEmpty());
     EXPECT_TRUE(list.GetCurSelDisplayText().IsEmpty()) << "nothing selected";
     list.SetDisplayText(1, CString(L"Name: Line_4"));
@@ -30,15 +27,6 @@ TEST_F(SummaryTest, LinesAndTheirTexts) {
     list.SetCurSel(1);
     EXPECT_EQ(CString(L"Name: Line_4"), list.GetCurSelDisplayText());
     EXPECT_EQ(2, list.GetLineCount());
-}
-
-TEST_F(SummaryTest, ScrollbarOnlyPastOnePage) {
-    EXPECT_FALSE(list.IsVerticalScrollbarVisible());
-    for (int i = 0; i < 10; ++i)
-        list.AddItem(CString(L"line"), false);
-    EXPECT_FALSE(list.IsVerticalScrollbarVisible()) << "exactly one page";
-    list.AddItem(CString(L"line"), false);
-    EXPECT_TRUE(list.IsVerticalScrollbarVisible());
 }
 
 TEST_F(SummaryTest, HeaderAndLineWithTheSameTextStartTwelvePixelsApart) {

@@ -2,7 +2,7 @@
 // A plain Win32 parent window for the tree controls' tests: it records the
 // WM_COMMAND notifications it is sent, and helpers drive a control with real
 // messages and read its rows back.
-#include <windows.h>
+#include "support/TestWindow.h"
 
 #include <algorithm>
 #include <functional>
@@ -21,16 +21,7 @@ struct Command {
 class ParentWindow {
 public:
     ParentWindow(int width = 400, int height = 300) {
-        static bool registered = false;
-        if (!registered) {
-            WNDCLASSW wc{};
-            wc.lpfnWndProc = &ParentWindow::Proc;
-            wc.hInstance = GetModuleHandleW(nullptr);
-            wc.lpszClassName = L"VuTreeTestParent";
-            wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
-            RegisterClassW(&wc);
-            registered = true;
-        }
+        vutest::RegisterOnce(L"VuTreeTestParent", &ParentWindow::Proc);
         m_hWnd = CreateWindowExW(0, L"VuTreeTestParent", L"tree test", WS_OVERLAPPEDWINDOW, 0, 0,
                                  width, height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
     }
@@ -52,10 +43,10 @@ public:
 
 private:
     static LRESULT CALLBACK Proc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_NCCREATE) {
-            auto* cs = reinterpret_cast<CREATESTRUCTW*>(lParam);
-            SetWindowLongPtrW(hWnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(cs->lpCreateParams));
-        }
+        if (message == WM_NCCREATE)
+            SetWindowLongPtrW(hWnd, GWLP_USERDATA,
+                              reinterpret_cast<LONG_PTR>(
+                                  reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams));
         auto* self = reinterpret_cast<ParentWindow*>(GetWindowLongPtrW(hWnd, GWLP_USERDATA));
         if (message == WM_COMMAND && self != nullptr) {
             self->commands.push_back(
@@ -70,11 +61,7 @@ private:
 };
 
 inline void PumpMessages() {
-    MSG msg;
-    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
-        TranslateMessage(&msg);
-        DispatchMessageW(&msg);
-    }
+    vutest::PumpPending();
 }
 
 inline void Key(HWND hWnd, UINT vk) {
@@ -94,18 +81,12 @@ inline void DoubleClick(HWND hWnd, int x, int y) {
 
 // The rows as the list box reports them through LB_GETTEXT.
 inline std::vector<std::wstring> RowTexts(HWND hWnd) {
-    std::vector<std::wstring> rows;
-    const int count = static_cast<int>(SendMessageW(hWnd, LB_GETCOUNT, 0, 0));
-    for (int i = 0; i < count; ++i) {
+    std::vector<std::wstring> rows(static_cast<size_t>(SendMessageW(hWnd, LB_GETCOUNT, 0, 0)));
+    for (size_t i = 0; i < rows.size(); ++i) {
         const LRESULT length = SendMessageW(hWnd, LB_GETTEXTLEN, i, 0);
-        if (length < 0) {
-            rows.push_back(L"<error>");
-            continue;
-        }
-        std::wstring text(static_cast<size_t>(length) + 1, L'\0');
-        SendMessageW(hWnd, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data()));
-        text.resize(static_cast<size_t>(length));
-        rows.push_back(text);
+        rows[i].resize(static_cast<size_t>(std::max<LRESULT>(length, 0)) + 1);
+        SendMessageW(hWnd, LB_GETTEXT, i, reinterpret_cast<LPARAM>(rows[i].data()));
+        rows[i] = length < 0 ? L"<error>" : rows[i].substr(0, static_cast<size_t>(length));
     }
     return rows;
 }
@@ -119,20 +100,13 @@ public:
         GetClientRect(hWnd, &rc);
         m_width = rc.right;
         m_height = rc.bottom;
-        BITMAPINFO bi{};
-        bi.bmiHeader.biSize = sizeof(bi.bmiHeader);
-        bi.bmiHeader.biWidth = m_width;
-        bi.bmiHeader.biHeight = -m_height;
-        bi.bmiHeader.biPlanes = 1;
-        bi.bmiHeader.biBitCount = 32;
-        HDC screen = GetDC(nullptr);
-        m_dc = CreateCompatibleDC(screen);
-        ReleaseDC(nullptr, screen);
+        BITMAPINFO bi{{sizeof(BITMAPINFOHEADER), m_width, -m_height, 1, 32, BI_RGB, 0, 0, 0, 0, 0},
+                      {}};
+        m_dc = CreateCompatibleDC(nullptr);
         m_bitmap = CreateDIBSection(m_dc, &bi, DIB_RGB_COLORS, reinterpret_cast<void**>(&m_bits),
                                     nullptr, 0);
         m_old = SelectObject(m_dc, m_bitmap);
-        HBRUSH white = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
-        FillRect(m_dc, &rc, white);
+        FillRect(m_dc, &rc, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
         SendMessageW(hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(m_dc),
                      PRF_CLIENT | PRF_ERASEBKGND);
         GdiFlush();
