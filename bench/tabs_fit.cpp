@@ -10,6 +10,7 @@
 // tabs in 1280 pixels (they never fit: every text goes down to 3
 // characters, then all are restored).
 #include "tabs/TabBeamModel.h"
+#include "tests/support/TabLiteralFit.h"
 
 #include <benchmark/benchmark.h>
 
@@ -45,19 +46,6 @@ struct Beam {
     VU_CTabBeamModel model;
 };
 
-bool LiteralFit(VU_CTabBeamModel& beam, bool truncated) {
-    int available = beam.CalcAvailableWidth();
-    while (beam.CalcTotalTabWidth() > available) {
-        if (!beam.CheckTabsForExcess()) {
-            beam.RestoreTabsToOriginal();
-            return false;
-        }
-        beam.ShortenLongestTab();
-        truncated = true;
-    }
-    return truncated;
-}
-
 void BM_Fit(benchmark::State& state) {
     Beam beam(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     for (auto _ : state) {
@@ -71,7 +59,7 @@ void BM_LiteralFit(benchmark::State& state) {
     Beam beam(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     for (auto _ : state) {
         beam.model.RestoreTabsToOriginal();
-        benchmark::DoNotOptimize(LiteralFit(beam.model, false));
+        benchmark::DoNotOptimize(vu::reference::LiteralFit(beam.model, false));
     }
 }
 

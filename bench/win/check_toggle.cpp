@@ -27,13 +27,8 @@ constexpr DWORD kStyle =
     WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
 
 double Best(const std::function<void()>& timed) {
-    double best = 1e30;
-    for (int round = 0; round < kRounds; ++round) {
-        const double start = Now();
-        timed();
-        best = std::min(best, Now() - start);
-    }
-    return best;
+    return vu::bench::BestOf(
+        kRounds, [] {}, timed);
 }
 
 void PlainSet(CTreeNode* node, bool state) {

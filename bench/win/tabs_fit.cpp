@@ -10,6 +10,7 @@
 #include "Clock.h"
 
 #include "tabs/win/TabBeam.h"
+#include "tests/support/TabLiteralFit.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -23,14 +24,7 @@ namespace {
 constexpr int kRounds = 5;
 
 double BestMs(const std::function<void()>& prepare, const std::function<void()>& timed) {
-    double best = 1e30;
-    for (int round = 0; round < kRounds; ++round) {
-        prepare();
-        double start = Now();
-        timed();
-        best = std::min(best, Now() - start);
-    }
-    return best * 1000.0;
+    return vu::bench::BestOf(kRounds, prepare, timed) * 1000.0;
 }
 
 std::wstring TabText(int i) {
@@ -63,19 +57,6 @@ struct GdiView : VU_ATabBeamView {
     CRect client;
 };
 
-bool LiteralFit(VU_CTabBeamModel& model, bool truncated) {
-    int available = model.CalcAvailableWidth();
-    while (model.CalcTotalTabWidth() > available) {
-        if (!model.CheckTabsForExcess()) {
-            model.RestoreTabsToOriginal();
-            return false;
-        }
-        model.ShortenLongestTab();
-        truncated = true;
-    }
-    return truncated;
-}
-
 HWND MakeParent() {
     WNDCLASSW wc{};
     wc.lpfnWndProc = DefWindowProcW;
@@ -105,7 +86,7 @@ void Case(CWnd& parent, int tabs, int width) {
     auto literalResize = [&] {
         if (literal.CalcAvailableWidth() - literal.CalcTotalTabWidth() >= 15)
             literal.RestoreTabsToOriginal();
-        LiteralFit(literal, false);
+        vu::reference::LiteralFit(literal, false);
     };
     // A refit after the beam narrows by 40 pixels, from the texts fitted
     // to the wider beam.
@@ -124,8 +105,8 @@ void Case(CWnd& parent, int tabs, int width) {
             beam.CreateFonts(); // forgets the widths
         },
         [&] { beam.DetermineTextForTabs(); });
-    double literalFirst =
-        BestMs([&] { literal.RestoreTabsToOriginal(); }, [&] { LiteralFit(literal, false); });
+    double literalFirst = BestMs([&] { literal.RestoreTabsToOriginal(); },
+                                 [&] { vu::reference::LiteralFit(literal, false); });
     bool same = true;
     for (int i = 0; i < tabs; ++i)
         same = same && beam.GetTab(i)->m_strLine1 == literal.GetTabRecord(i)->m_strLine1 &&

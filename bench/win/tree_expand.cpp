@@ -26,14 +26,7 @@ constexpr DWORD kStyle =
 
 // Best time of kRounds runs of `timed`, each after an untimed `prepare`.
 double Best(const std::function<void()>& prepare, const std::function<void()>& timed) {
-    double best = 1e30;
-    for (int round = 0; round < kRounds; ++round) {
-        prepare();
-        const double start = Now();
-        timed();
-        best = std::min(best, Now() - start);
-    }
-    return best;
+    return vu::bench::BestOf(kRounds, prepare, timed);
 }
 
 void Pump() {

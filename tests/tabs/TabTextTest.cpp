@@ -1,6 +1,7 @@
 // The tab texts: lines, countable characters, shortening and the fitting
 // of all texts into the client area, also against the stepwise loop.
 #include "FakeTabView.h"
+#include "tests/support/TabLiteralFit.h"
 
 #include <gtest/gtest.h>
 
@@ -101,22 +102,6 @@ TEST(TabText, ResizeRestoresFullTextsFrom15FreePixels) {
     }
 }
 
-// The fitting against the loop it replaces, step by step as first written:
-// measure the total, shorten the longest tab by one character, repeat.
-// Returns the truncated flag the loop leaves.
-bool LiteralFit(VU_CTabBeamModel& beam, bool truncated) {
-    int available = beam.CalcAvailableWidth();
-    while (beam.CalcTotalTabWidth() > available) {
-        if (!beam.CheckTabsForExcess()) {
-            beam.RestoreTabsToOriginal();
-            return false;
-        }
-        beam.ShortenLongestTab();
-        truncated = true;
-    }
-    return truncated;
-}
-
 // Each tab's lines and width, and the truncated flag.
 std::string State(const VU_CTabBeamModel& beam) {
     std::string state = beam.IsTruncated() ? "truncated" : "full";
@@ -170,7 +155,7 @@ TEST(TabFitEquivalence, SameTextsWidthsAndFlagAsTheStepwiseLoop) {
         fast.RestoreTabsToOriginal();
         literal.RestoreTabsToOriginal();
         fast.DetermineTextForTabs();
-        literal.SetTruncatedForTest(LiteralFit(literal, literal.IsTruncated()));
+        literal.SetTruncatedForTest(vu::reference::LiteralFit(literal, literal.IsTruncated()));
         ASSERT_EQ(State(literal), State(fast));
     }
 }
