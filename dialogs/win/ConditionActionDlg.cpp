@@ -317,16 +317,16 @@ BOOL AF_CConditionActionDlg::OnInitDialog() {
 // ---- Buttons, check boxes and help ----------------------------------------
 
 void AF_CConditionActionDlg::OnButtonPressed(unsigned int nID) {
-    if (nID == IDCANCEL && !m_buttons.m_bCancelAllowed)
-        return;
-    if (nID == AF_CDialogButtons::kHelpId) {
-        if (m_buttons.m_pfnCallback == nullptr ||
-            m_buttons.m_pfnCallback(nID, m_buttons.m_pCallbackData) == 0)
-            OnHelp();
-        return;
-    }
-    if (m_buttons.Ask(nID))
+    switch (m_buttons.Decide(nID)) {
+    case AF_CDialogButtons::Press::ShowHelp:
+        OnHelp();
+        break;
+    case AF_CDialogButtons::Press::EndDialog:
         EndDialog(static_cast<int>(nID));
+        break;
+    case AF_CDialogButtons::Press::Ignore:
+        break;
+    }
 }
 
 void AF_CConditionActionDlg::OnCheckboxClicked(unsigned int nID) {
@@ -344,10 +344,7 @@ void AF_CConditionActionDlg::OnHelp() {
 }
 
 LRESULT AF_CConditionActionDlg::OnCommandHelp(WPARAM, LPARAM) {
-    if (!m_buttons.m_bF1Help)
-        return TRUE;
-    if (m_buttons.m_pfnCallback == nullptr ||
-        m_buttons.m_pfnCallback(AF_CDialogButtons::kHelpId, m_buttons.m_pCallbackData) == 0)
+    if (m_buttons.WantsF1Help())
         OnHelp();
     return TRUE;
 }

@@ -77,3 +77,16 @@ BOOL AF_CDialogButtons::Enable(unsigned int id, bool enable) {
 BOOL AF_CDialogButtons::Ask(unsigned int id) const {
     return m_pfnCallback == nullptr || m_pfnCallback(id, m_pCallbackData) != 0;
 }
+
+AF_CDialogButtons::Press AF_CDialogButtons::Decide(unsigned int id) const {
+    if (id == IDCANCEL && !m_bCancelAllowed)
+        return Press::Ignore;
+    if (id == kHelpId)
+        return m_pfnCallback == nullptr || m_pfnCallback(id, m_pCallbackData) == 0 ? Press::ShowHelp
+                                                                                   : Press::Ignore;
+    return Ask(id) ? Press::EndDialog : Press::Ignore;
+}
+
+BOOL AF_CDialogButtons::WantsF1Help() const {
+    return m_bF1Help && (m_pfnCallback == nullptr || m_pfnCallback(kHelpId, m_pCallbackData) == 0);
+}

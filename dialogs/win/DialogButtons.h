@@ -61,4 +61,13 @@ public:
     BOOL Enable(unsigned int id, bool enable);
     // The callback's answer for a press (TRUE without a callback).
     BOOL Ask(unsigned int id) const;
+    // What a press of button id does: nothing (Esc while cancelling is
+    // refused, or the callback refused), the dialog's own help (the Help
+    // button, unless the callback answered non-zero for it), or the end of
+    // the dialog with id.
+    enum class Press { Ignore, ShowHelp, EndDialog };
+    Press Decide(unsigned int id) const;
+    // TRUE when F1 should show the dialog's own help: F1 help is on and
+    // the callback answers 0 (or there is none) for the Help id.
+    BOOL WantsF1Help() const;
 };

@@ -175,16 +175,16 @@ BOOL AF_CMessageBox::OnInitDialog() {
 // ---- Buttons and help -----------------------------------------------------
 
 void AF_CMessageBox::OnButtonPressed(unsigned int nID) {
-    if (nID == IDCANCEL && !m_buttons.m_bCancelAllowed)
-        return;
-    if (nID == AF_CDialogButtons::kHelpId) {
-        if (m_buttons.m_pfnCallback == nullptr ||
-            m_buttons.m_pfnCallback(nID, m_buttons.m_pCallbackData) == 0)
-            OnHelp();
-        return;
-    }
-    if (m_buttons.Ask(nID))
+    switch (m_buttons.Decide(nID)) {
+    case AF_CDialogButtons::Press::ShowHelp:
+        OnHelp();
+        break;
+    case AF_CDialogButtons::Press::EndDialog:
         EndDialog(static_cast<int>(nID));
+        break;
+    case AF_CDialogButtons::Press::Ignore:
+        break;
+    }
 }
 
 void AF_CMessageBox::OnHelp() {
@@ -192,10 +192,7 @@ void AF_CMessageBox::OnHelp() {
 }
 
 LRESULT AF_CMessageBox::OnCommandHelp(WPARAM, LPARAM) {
-    if (!m_buttons.m_bF1Help)
-        return TRUE;
-    if (m_buttons.m_pfnCallback == nullptr ||
-        m_buttons.m_pfnCallback(AF_CDialogButtons::kHelpId, m_buttons.m_pCallbackData) == 0)
+    if (m_buttons.WantsF1Help())
         OnHelp();
     return TRUE;
 }
