@@ -16,7 +16,8 @@ long RunHost(const wchar_t* name) {
     GetModuleFileNameW(nullptr, path, MAX_PATH);
     std::wstring command(path);
     command = L"\"" + command.substr(0, command.find_last_of(L"\\/") + 1) + name + L"\"";
-    STARTUPINFOW si{sizeof(si)};
+    STARTUPINFOW si{};
+    si.cb = sizeof(si);
     PROCESS_INFORMATION pi{};
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &si,
                         &pi))

@@ -59,8 +59,10 @@ Split CoreSplit(const std::wstring& path, Mask mask) {
 
 std::string Show(const std::wstring& s) {
     std::ostringstream out;
-    if (s.size() > 60)
-        return "<" + std::to_string(s.size()) + " units>";
+    if (s.size() > 60) {
+        out << '<' << s.size() << " units>";
+        return out.str();
+    }
     for (wchar_t c : s)
         if (c >= 0x20 && c < 0x7F)
             out << static_cast<char>(c);
